@@ -5,4 +5,4 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 bash scripts/install-deps.sh
 bash scripts/build.sh
-"${QUINDAR_BUILD_DIR:-build}/app/quindar-cli" examples/tour.txt
+"${QUINDAR_BUILD_DIR:-build}/app/quindar-cli/quindar-cli" examples/tour.txt

@@ -26,6 +26,26 @@ void m_apmc_mul(M_APM rr, M_APM ri, const MapmNumber *ar, const MapmNumber *ai,
 // -1 when b is 0.
 int m_apmc_div(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai,
                const MapmNumber *br, const MapmNumber *bi);
+// a to the power b. -1 when a is 0 and the real part of b is not positive (results
+// left as they were); 0 to any other power is exactly 0.
+int m_apmc_pow(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai,
+               const MapmNumber *br, const MapmNumber *bi);
+
+// Order relations, part by part: 1 or 0. Complex numbers that are not ordered in both
+// parts the same way stand in no order (neither gt, ge, lt nor le holds).
+int m_apmc_eq(const MapmNumber *ar, const MapmNumber *ai, const MapmNumber *br,
+              const MapmNumber *bi);
+int m_apmc_neq(const MapmNumber *ar, const MapmNumber *ai, const MapmNumber *br,
+               const MapmNumber *bi);
+int m_apmc_gt(const MapmNumber *ar, const MapmNumber *ai, const MapmNumber *br,
+              const MapmNumber *bi);
+int m_apmc_ge(const MapmNumber *ar, const MapmNumber *ai, const MapmNumber *br,
+              const MapmNumber *bi);
+int m_apmc_lt(const MapmNumber *ar, const MapmNumber *ai, const MapmNumber *br,
+              const MapmNumber *bi);
+int m_apmc_le(const MapmNumber *ar, const MapmNumber *ai, const MapmNumber *br,
+              const MapmNumber *bi);
+
 // 1 when both parts are 0.
 int m_apmc_is0(const MapmNumber *ar, const MapmNumber *ai);
 

@@ -1,0 +1,199 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Quindar developers
+#pragma once
+
+// The engine of one document: turns a line of text into a value by recursive descent,
+// computing as it reads, and owns the engine's error channel.
+
+#include <memory>
+#include <optional>
+#include <ostream>
+#include <sstream>
+#include <string>
+
+#include "complex.h"
+#include "mathematics.h"
+#include "message_hook.h"
+#include "precform.h"
+
+namespace quindar {
+
+// Kinds of token.
+inline constexpr char kDelimiter = 0;
+inline constexpr char kName = 1;
+inline constexpr char kNumber = 2;
+
+// Relational operators are kept in a token as these control codes.
+enum RelationalCode : char {
+    kLess = 1,
+    kLessEqual = 2,
+    kGreater = 3,
+    kGreaterEqual = 4,
+    kEqual = 5,
+    kNotEqual = 6,
+};
+
+// The working copy of a line, with everything spliced into it, holds this many bytes.
+inline constexpr std::size_t kExpressionSize = 1024;
+
+class Parser : public Mathematics {
+public:
+    Parser(const char *libraryDir, const char *userLibraryDir);
+    ~Parser();
+    Parser(const Parser &) = delete;
+    Parser &operator=(const Parser &) = delete;
+
+    // Evaluates one line. Returns the answer text (" = 5" with showEquals), or an empty
+    // text when the line was a plain declaration or failed. The text lives until the
+    // next call. The short form returns null for a null text.
+    const char *eval_exp(const char *text, bool silent, bool showEquals);
+    const char *eval_exp(const char *text, complex &result, bool silent, bool showEquals);
+
+    // Error channel over every error state of the engine.
+    bool IsAnError() const;
+    const char *GetLastError() const;
+    void ClearLastError();
+    void SetLastError(const char *text, int number);
+    void SetSilentMode(bool silentMode);
+    void SetSolvingMap(bool solving);
+    int GetLastErrorNumber() const { return error_number; }
+
+    // The application's message boxes, for this engine and everything it owns.
+    void set_message_hook(MessageHook hook);
+
+    // One-shot token reading for callers outside evaluation. Returns the position behind
+    // the token, or null at the end or on an error.
+    const char *get_token(const char *text, char *tokenOut, char &typeOut);
+    // True when text holds a name token equal to name (case sensitive).
+    bool find_token(const char *text, const char *name, char unused = 0);
+
+    static void remove_end_spaces(char *text);
+
+    // Printing of values with this engine's formats.
+    void stream_answer(complex &value, std::ostream &stream, int precision);
+    void stream_variable(complex &value, std::ostream &stream, int precision);
+
+    // Working values of the workers below; they hide those of the Mathematics base,
+    // which has its own for the operators.
+    void InitMapmValues();
+    void FreeMapmValues();
+
+    // Workers shared by the operators, the embedded functions and the map solver.
+    complex _pow(const complex &a, const complex &b);
+    complex _factorial(const complex &z);
+    complex _less(bool &chain, const complex &a, const complex &b);
+    complex _leseq(bool &chain, const complex &a, const complex &b);
+    complex _greater(bool &chain, const complex &a, const complex &b);
+    complex _greateq(bool &chain, const complex &a, const complex &b);
+    complex _equal(bool &chain, const complex &a, const complex &b);
+    complex _nequal(bool &chain, const complex &a, const complex &b);
+
+    // Raising. Each stores its message, shows it unless silent, then leaves for the
+    // recovery point of eval_exp, or returns while a map is being solved.
+    void parser_exception(int number);
+    void special_exception(const char *format, const char *argument);
+    void special_exception(const char *format, char argument);
+    void special_exception();
+
+    // Settings read by the list windows, the trigonometric functions and documents.
+    bool use_square_brackets = true;
+    bool show_incrementals = true;
+    int angle_mode = 0;
+    bool auto_declare = false;
+    bool limit_digits = false;
+
+    std::unique_ptr<PrecformType> answer_format;
+    std::unique_ptr<PrecformType> variable_format;
+
+    bool vars_saved = true;
+    bool assignment_made = false;
+    bool funcs_saved = true;
+    bool function_declared = false;
+    bool mapping = false;
+
+    bool error = false;
+    int error_number = -1;
+    bool silent = false;
+    bool solving_map = false;
+    bool show_equals = false;
+    std::optional<std::string> error_text;
+
+private:
+    // Frame.
+    void reset();
+    void raise(const std::string &text, const char *caption, int number);
+    static std::string format_message(const char *format, const char *argument);
+    void evaluate_line(complex &result, std::ostringstream &answer);
+
+    // Tokens.
+    const char *get_token();
+    void putback();
+    void copy_token(char &type, std::string &to) const;
+    void copy_token_back(char type, const std::string &from);
+    void check_valid_input(char *text);
+    bool passes_incremental_comma_test();
+    void check_balanced_parens(const char *text);
+    bool is_function_declaration();
+    void read_number();
+    bool at_end() const { return token.empty() && token_type == kDelimiter; }
+    bool token_is(char delimiter) const;
+    bool token_is_relational() const;
+    bool token_is_i() const;
+
+    // Grammar.
+    void eval_exp0(complex &value, std::ostream &answer);
+    void eval_exp1(complex &value, std::ostream &answer);
+    void eval_exp2(complex &value, std::ostream &answer);
+    void eval_exp3(complex &value, std::ostream &answer);
+    void eval_exp4(complex &value, std::ostream &answer);
+    void eval_exp5(complex &value, std::ostream &answer);
+    void eval_exp6(complex &value, std::ostream &answer);
+    void atom(complex &value, std::ostream &answer);
+    void atom_name(complex &value, std::ostream &answer);
+    void atom_number(complex &value);
+    void get_scientific_value(long double &value);
+    complex compare(char code, bool &chain, const complex &left, const complex &right);
+
+    // Names that later tables answer; until then they find nothing.
+    int is_internal_function(const char *name) const;
+    void internal_function(int index, complex &value, std::ostream &answer);
+    bool is_constant(const char *name) const;
+    long double get_constant_value(const char *name) const;
+    bool is_variable(const char *name) const;
+    bool var_assigned(const char *name) const;
+    bool is_var_locked(const char *name) const;
+    complex get_var_value(const char *name) const;
+    bool is_library_function(const char *name);
+    bool user_function_full_name(const char *name, std::string &fullName) const;
+    void declare_variable(complex &value, std::ostream &answer, const char *name);
+    void declare_unassigned_variable(const char *name);
+    void declare_function();
+    void insert_functions();
+    void insert_brackets(char *text, int start);
+
+    // Relational worker shared by the six comparisons.
+    template <class Relation>
+    complex relation(bool &chain, const complex &a, const complex &b, Relation holds);
+
+    std::string lib_path, lib_dir, user_lib_path, user_lib_dir;
+
+    std::unique_ptr<char[]> expr;
+    char *prog = nullptr;
+    char *expr_start = nullptr;
+    std::string token;
+    std::string saved_token;
+    char token_type = kDelimiter;
+    bool implicit_mult = false;
+
+    std::string answer_text;
+
+    MapmNumber parser_mapm_values[6]{};
+    M_APM mapm_r1 = &parser_mapm_values[0], mapm_r2 = &parser_mapm_values[1];
+    M_APM mapm_a = &parser_mapm_values[2], mapm_b = &parser_mapm_values[3];
+    M_APM mapm_c = &parser_mapm_values[4], mapm_d = &parser_mapm_values[5];
+    bool mapm_free = true;
+
+    MessageHook message_hook_storage;
+};
+
+}  // namespace quindar

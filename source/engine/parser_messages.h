@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Quindar developers
+#pragma once
+
+// The engine's message texts: the numbered errors of the evaluator, the formats of its
+// unnumbered ones and the captions of its boxes.
+
+namespace quindar::messages {
+
+// Text of numbered error n (0 to 26), or "" for any other number.
+const char *parser_error(int number);
+inline constexpr int kParserErrorCount = 27;
+
+inline constexpr const char *kParserCaption = "Parser Error";
+inline constexpr const char *kMathLibraryCaption = "MATH LIBRARY ERROR";
+inline constexpr const char *kSolverCaption = "EXPRESSION SOLVER";
+inline constexpr const char *kVariableCaption = "VARIABLE";
+
+inline constexpr const char *kNotLegitimate = "' %c ' is not a legitimate mathematical character!";
+inline constexpr const char *kCommaMisused =
+    "A comma ' , ' can only be used to separate function parameters or define an incremental "
+    "variable!";
+inline constexpr const char *kParameterIsFunction =
+    "The variable ' %s ' is currently defined as an internal function, please use another "
+    "variable name in your function definition!";
+inline constexpr const char *kParameterIsConstant =
+    "The variable ' %s ' is currently defined as an internal constant, please use another "
+    "variable name in your function definition!";
+inline constexpr const char *kFunctionNameTaken =
+    "' %s ' Is Currently Defined As A Function, Use Another Name!";
+inline constexpr const char *kEmbeddedRedefined =
+    "' %s ' has already been defined as an embedded mathematical function\nYou can not redefine "
+    "this function! please choose another name.";
+inline constexpr const char *kLibraryRedefined =
+    "' %s ' has already been defined as a mathematical library function\nYou can not redefine "
+    "this function! Please choose another name!";
+inline constexpr const char *kUnidentifiedAlone =
+    "' %s ' Could Not Be Identified As A Variable Or Function.";
+inline constexpr const char *kNotVariableOrConstant =
+    "' %s ' can not be identified as a variable or a constant!";
+inline constexpr const char *kNoValueYet = "' %s ' does not have a value yet";
+inline constexpr const char *kConstantAssigned = "Internal constant '%s' can not be assigned a value";
+inline constexpr const char *kMissingFunctionBracket =
+    "The '%s' is missing a right function bracket ] or parenthesis!";
+inline constexpr const char *kFunctionRedefined = "The '%s' function can not be redefined!";
+inline constexpr const char *kNotAFunction = "' %s ' can not be identified as a function!";
+inline constexpr const char *kVariableLocked =
+    "Variable ' %s ' has been temporarily locked by another running process!";
+inline constexpr const char *kNoValueFound = "No value for variable ' %s ' could be found!";
+inline constexpr const char *kTooManyDigits =
+    "The specified operation on the number ' %s ' can not be performed because this number has "
+    "more significant digits than the operation can support.";
+
+}  // namespace quindar::messages
