@@ -185,11 +185,11 @@ void m_apm_factorial(M_APM result, const MapmNumber *n) {
         store(result, bid128_from_int32(1));
         return;
     }
-    const long count = static_cast<long>(bid128_to_int64_int(x, &flags));
-    if (count > kLargestFactorial) {
+    if (bid128_quiet_greater(x, bid128_from_int32(kLargestFactorial), &flags)) {
         store(result, bid128_inf());
         return;
     }
+    const long count = static_cast<long>(bid128_to_int64_int(x, &flags));
     mpz_t product;
     mpz_init(product);
     mpz_fac_ui(product, static_cast<unsigned long>(count));

@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Quindar developers
+// Random bytes and random token soups never crash or hang the evaluator, and every
+// failure speaks one of the engine's own messages.
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+#include <vector>
+
+#include "mathematics.h"
+#include "parser.h"
+#include "parser_messages.h"
+
+namespace quindar {
+namespace {
+
+// True when text is the format with its one %s or %c filled in.
+bool matches_format(const std::string &text, const std::string &format) {
+    for (const char *marker : {"%s", "%c"}) {
+        const auto at = format.find(marker);
+        if (at == std::string::npos) continue;
+        const std::string before = format.substr(0, at), after = format.substr(at + 2);
+        return text.size() >= before.size() + after.size() && text.compare(0, before.size(), before) == 0 &&
+               text.compare(text.size() - after.size(), after.size(), after) == 0;
+    }
+    return text == format;
+}
+
+bool is_known_message(const std::string &text) {
+    for (int n = 0; n < messages::kParserErrorCount; ++n)
+        if (text == messages::parser_error(n)) return true;
+    for (int n = 0; n < 6; ++n)
+        if (text == Mathematics::math_message(n)) return true;
+    const char *formats[] = {
+        messages::kNotLegitimate,        messages::kCommaMisused,
+        messages::kParameterIsFunction,  messages::kParameterIsConstant,
+        messages::kFunctionNameTaken,    messages::kEmbeddedRedefined,
+        messages::kLibraryRedefined,     messages::kUnidentifiedAlone,
+        messages::kNotVariableOrConstant, messages::kNoValueYet,
+        messages::kConstantAssigned,     messages::kMissingFunctionBracket,
+        messages::kFunctionRedefined,    messages::kNotAFunction,
+        messages::kVariableLocked,       messages::kNoValueFound,
+        messages::kTooManyDigits,
+    };
+    for (const char *format : formats)
+        if (matches_format(text, format)) return true;
+    return false;
+}
+
+void evaluate_and_check(Parser &parser, const std::string &line) {
+    const char *answer = parser.eval_exp(line.c_str(), true, true);
+    ASSERT_NE(answer, nullptr);
+    if (parser.IsAnError()) {
+        ASSERT_NE(parser.GetLastError(), nullptr) << line;
+        EXPECT_TRUE(is_known_message(parser.GetLastError())) << line << " -> " << parser.GetLastError();
+        EXPECT_STREQ(answer, "");
+    } else {
+        EXPECT_EQ(std::string(answer).rfind(" = ", 0), 0u) << line;
+    }
+}
+
+TEST(Fuzz, RandomBytes) {
+    std::mt19937 engine(1);
+    Parser parser("", "");
+    for (int n = 0; n < 20000; ++n) {
+        std::string line(std::uniform_int_distribution<int>(0, 40)(engine), ' ');
+        for (char &c : line) c = static_cast<char>(std::uniform_int_distribution<int>(1, 255)(engine));
+        evaluate_and_check(parser, line);
+    }
+}
+
+TEST(Fuzz, TokenSoups) {
+    const std::vector<std::string> pieces = {
+        "1", "0", "2.5", ".5", "5.", "1e+3", "1e-3", "e", "E", "i", "3i", "x", "(", ")", "[", "]",
+        "{", "}", "+", "-", "*", "/", "%", "^", "!", "<", "<=", ">", ">=", "==", "!=", "=", ",",
+        " ", "\t", "1.2.3", "1e+400", "sin", "PI", "99999999999999999999", "0.000000001", "_",
+    };
+    std::mt19937 engine(2);
+    Parser parser("", "");
+    for (int n = 0; n < 40000; ++n) {
+        std::string line;
+        const int count = std::uniform_int_distribution<int>(1, 12)(engine);
+        for (int k = 0; k < count; ++k)
+            line += pieces[std::uniform_int_distribution<std::size_t>(0, pieces.size() - 1)(engine)];
+        evaluate_and_check(parser, line);
+    }
+}
+
+TEST(Fuzz, DeepNestingAndLongLines) {
+    Parser parser("", "");
+    evaluate_and_check(parser, std::string(500, '(') + "1" + std::string(500, ')'));
+    evaluate_and_check(parser, std::string(1000, '('));
+    std::string sum = "1";
+    while (sum.size() < 1000) sum += "+1";
+    evaluate_and_check(parser, sum);
+    evaluate_and_check(parser, std::string(5000, '9'));
+    evaluate_and_check(parser, std::string(300, '-') + "1");
+}
+
+}  // namespace
+}  // namespace quindar
