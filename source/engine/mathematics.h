@@ -63,6 +63,9 @@ public:
     static void SetMapmValue(const double &value, M_APM target);
     // A result of the decimal layer back: text with 15 digits, read as long double.
     static long double GetMapmValue(const MapmNumber *value);
+    // Text to long double in the classic locale, as strtold reads it: a value beyond the
+    // range becomes infinite, one below it 0.
+    static long double _atold(const char *text);
 
     // Error state.
     void math_exception(int index);

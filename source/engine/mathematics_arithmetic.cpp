@@ -4,6 +4,7 @@
 // digits, the operation in decimal, the result back from text with 15.
 #include <charconv>
 #include <cmath>
+#include <cstring>
 
 #include "mapm_complex.h"
 #include "mathematics.h"
@@ -35,10 +36,24 @@ void Mathematics::SetMapmValue(const double &value, M_APM target) {
 long double Mathematics::GetMapmValue(const MapmNumber *value) {
     char text[kMapmTextSize];
     m_apm_to_string(text, kPlaces, value);
+    return _atold(text);
+}
+
+long double Mathematics::_atold(const char *text) {
+    while (*text == ' ') ++text;
+    const bool negative = *text == '-';
+    if (*text == '+' || *text == '-') ++text;
     long double result = 0.0L;
-    const char *end = text + std::char_traits<char>::length(text);
-    std::from_chars(text, end, result);
-    return result;
+    const auto [end, status] =
+        std::from_chars(text, text + std::char_traits<char>::length(text), result);
+    if (status == std::errc::result_out_of_range) {
+        const char *exponent = std::strpbrk(text, "eE");
+        const bool large = exponent == nullptr || exponent[1] != '-';
+        result = large ? HUGE_VALL : 0.0L;
+    } else if (status != std::errc()) {
+        result = 0.0L;
+    }
+    return negative ? -result : result;
 }
 
 template <class Operation>

@@ -261,8 +261,7 @@ void Parser::atom_number(complex &value) {
         for (std::size_t k = first; k < token.size(); ++k) digits += token[k] != '.';
         if (digits > 14) special_exception(messages::kTooManyDigits, token.c_str());
     }
-    long double number = 0.0L;
-    std::from_chars(token.data(), token.data() + token.size(), number);
+    long double number = _atold(token.c_str());
     if (*prog == 'e' || *prog == 'E') {
         get_token();
         const bool exponent_marker = token == "e" || token == "E";
@@ -289,14 +288,16 @@ void Parser::get_scientific_value(long double &value) {
     const bool negative = token_is('-');
     get_token();
     if (token_type != kNumber || token_is_i()) parser_exception(10);
-    long double exponent_value = 0.0L;
-    std::from_chars(token.data(), token.data() + token.size(), exponent_value);
+    const long double exponent_value = _atold(token.c_str());
     if (exponent_value != std::floor(exponent_value)) parser_exception(8);
 
     char text[96];
     auto written = std::to_chars(text, text + 64, value, std::chars_format::general, 14);
     *written.ptr = '\0';
-    long exponent = std::strtol(token.c_str(), nullptr, 10);
+    // Far beyond any literal bound: keep the sum of exponents from overflowing.
+    constexpr long kExponentLimit = 100000;
+    long exponent = exponent_value > kExponentLimit ? kExponentLimit
+                                                    : static_cast<long>(exponent_value);
     if (negative) exponent = -exponent;
     if (char *own = std::strchr(text, 'e')) {
         exponent += std::strtol(own + 1, nullptr, 10);
@@ -304,7 +305,7 @@ void Parser::get_scientific_value(long double &value) {
     }
     const std::size_t length = std::strlen(text);
     std::snprintf(text + length, sizeof text - length, "E%s%ld", exponent >= 0 ? "+" : "", exponent);
-    std::from_chars(text, text + std::strlen(text), value);
+    value = _atold(text);
 }
 
 }  // namespace quindar

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Quindar developers
+// Cost of one operator's decimal round trip and of evaluating a typical line.
+#include <benchmark/benchmark.h>
+
+#include "mathematics.h"
+#include "parser.h"
+
+namespace {
+
+using quindar::complex;
+
+void BM_complex_add(benchmark::State &state) {
+    quindar::Mathematics math;
+    complex a{1.234567890123, 0}, b{9.87654321, 0};
+    for (auto _ : state) benchmark::DoNotOptimize(a = math.complex_add(a, b));
+}
+BENCHMARK(BM_complex_add);
+
+void BM_complex_mult(benchmark::State &state) {
+    quindar::Mathematics math;
+    const complex a{1.234567890123, -2.5}, b{0.999999, 0.5};
+    for (auto _ : state) benchmark::DoNotOptimize(math.complex_mult(a, b));
+}
+BENCHMARK(BM_complex_mult);
+
+void BM_complex_div(benchmark::State &state) {
+    quindar::Mathematics math;
+    const complex a{1.234567890123, -2.5}, b{3.7, 0.25};
+    for (auto _ : state) benchmark::DoNotOptimize(math.complex_div(a, b));
+}
+BENCHMARK(BM_complex_div);
+
+void BM_complex_div_real(benchmark::State &state) {
+    quindar::Mathematics math;
+    const complex a{1.0, 0}, b{3.0, 0};
+    for (auto _ : state) benchmark::DoNotOptimize(math.complex_div(a, b));
+}
+BENCHMARK(BM_complex_div_real);
+
+// Ten operators: sums, products, a quotient, a power, a comparison-free line.
+void BM_eval_exp_ten_operators(benchmark::State &state) {
+    quindar::Parser parser("", "");
+    const char *line = "1.5*2.25 + 3/7 - 4.125*(2+0.5) + 6^2 - 7.75/2 + 8";
+    for (auto _ : state) benchmark::DoNotOptimize(parser.eval_exp(line, true, true));
+}
+BENCHMARK(BM_eval_exp_ten_operators);
+
+}  // namespace
