@@ -5,6 +5,7 @@
 // The engine of one document: turns a line of text into a value by recursive descent,
 // computing as it reads, and owns the engine's error channel.
 
+#include <cstdio>
 #include <memory>
 #include <optional>
 #include <ostream>
@@ -12,9 +13,12 @@
 #include <string>
 
 #include "complex.h"
+#include "dynarray.h"
+#include "function.h"
 #include "mathematics.h"
 #include "message_hook.h"
 #include "precform.h"
+#include "variable.h"
 
 namespace quindar {
 
@@ -88,6 +92,87 @@ public:
     complex _equal(bool &chain, const complex &a, const complex &b);
     complex _nequal(bool &chain, const complex &a, const complex &b);
 
+    // Variables, in list order, with the array's cursor: an operation given index -1 or
+    // a null name works on the variable at the cursor.
+    int find_variable(const char *name);
+    int max_var_length();
+    bool is_variable(const char *name);
+    bool is_variable(int index);
+    bool var_assigned(const char *name);
+    bool var_assigned(int index);
+    bool var_incremented(const char *name);
+    bool var_incremented(int index);
+    complex get_var_lowlimit(const char *name);
+    complex get_var_lowlimit(int index);
+    complex get_var_hilimit(const char *name);
+    complex get_var_hilimit(int index);
+    complex get_var_increment(const char *name);
+    complex get_var_increment(int index);
+    void set_var_lowlimit(complex limit, const char *name);
+    void set_var_hilimit(complex limit, const char *name);
+    long get_var_numpoints(const char *name);
+    long get_var_numpoints(int index);
+    void set_var_numpoints(long points, const char *name);
+    complex get_var_value(const char *name);
+    const char *get_var_value(int index, int precision);
+    const char *get_var_value(const char *name, int precision);
+    void set_var_value(complex value, const char *name);
+    bool is_var_locked(const char *name);
+    void set_var_lock(const char *name, bool lock);
+    const char *get_var_inc_str_value(int index, int precision);
+    const char *get_var_str_value(const char *name, int precision, bool definition);
+    const char *get_var_str_value(int index, int precision, bool definition);
+    const char *get_var_str(int index, int precision, bool definition);
+    int get_var_str_value_len(int index, int precision, bool definition);
+    const char *get_var_name(int index);
+    static std::string get_var_dec_value(const char *text);
+    void switch_vars(int a, int b);
+    void move_var(int from, int to);
+    bool delete_variable(int index);
+    void delete_all_vars();
+
+    DynArray<Variable, 10> variables;
+
+    // User functions, in list order, with the array's cursor as for variables.
+    void add_new_function(const char *fullName, const char *value);
+    int find_function(const char *name);
+    int max_func_length();
+    bool is_function(const char *name);
+    bool is_function(int index);
+    bool is_func_variable(const char *shortName, const char *variable);
+    int get_num_func_vars(int index);
+    const char *get_func_name(int index);
+    const char *get_func_short_name(int index);
+    const char *get_func_value(const char *name);
+    const char *get_func_value(int index);
+    const char *get_func_name_value(int index);
+    const char *get_func_modvalue(const char *name);
+    const char *get_func_modvalue(int index);
+    void set_func_value(const char *value, const char *name);
+    void modify_func_value(int k, const char *text, const char *name);
+    void modify_func_value(int k, const char *text, int index);
+    void reset_func_modvalue(int index);
+    const char *get_func_variable(const char *name, bool first);
+    const char *get_func_variable(int index, bool first);
+    void set_func_variables(const char *variables, const char *name);
+    const char *get_func_str(int index);
+    const char *get_func_name_ex(int index);
+    const char *get_func_value_ex(const char *name);
+    const char *get_func_str_ex(int index);
+    int get_func_value_len(const char *name);
+    int get_func_value_len(int index);
+    int get_tot_func_value_len();
+    void switch_funcs(int a, int b);
+    void move_func(int from, int to);
+    bool delete_function(int index);
+    void delete_all_funcs();
+    // Every bracket in place: mode 0 [ ] to ( ), mode 1 ( ) to [ ].
+    static void replace_brackets(char *text, int mode);
+    // Call brackets only: mode 1 turns f(x) into f[x], mode 0 back.
+    void insert_brackets(char *text, int mode);
+
+    DynArray<Function, 10> functions;
+
     // Raising. Each stores its message, shows it unless silent, then leaves for the
     // recovery point of eval_exp, or returns while a map is being solved.
     void parser_exception(int number);
@@ -122,7 +207,13 @@ private:
     // Frame.
     void reset();
     void raise(const std::string &text, const char *caption, int number);
-    static std::string format_message(const char *format, const char *argument);
+    template <class... Arguments>
+    static std::string format_message(const char *format, Arguments... arguments) {
+        const int size = std::snprintf(nullptr, 0, format, arguments...);
+        std::string text(static_cast<std::size_t>(size > 0 ? size : 0), '\0');
+        std::snprintf(text.data(), text.size() + 1, format, arguments...);
+        return text;
+    }
     void evaluate_line(complex &result, std::ostringstream &answer);
 
     // Tokens.
@@ -159,17 +250,23 @@ private:
     void internal_function(int index, complex &value, std::ostream &answer);
     bool is_constant(const char *name) const;
     long double get_constant_value(const char *name) const;
-    bool is_variable(const char *name) const;
-    bool var_assigned(const char *name) const;
-    bool is_var_locked(const char *name) const;
-    complex get_var_value(const char *name) const;
     bool is_library_function(const char *name);
-    bool user_function_full_name(const char *name, std::string &fullName) const;
+    bool user_function_full_name(const char *name, std::string &fullName);
     void declare_variable(complex &value, std::ostream &answer, const char *name);
     void declare_unassigned_variable(const char *name);
     void declare_function();
     void insert_functions();
-    void insert_brackets(char *text, int start);
+    void eval_function(int index);
+    void insert_function(const std::string &value, char *start, const char *rest);
+    void check_declaration_body(const std::string &fullName, const std::string &shortName,
+                                const std::vector<std::string> &parameters, char *body);
+    void raise_argument_count(const std::string &name, int wanted, int used);
+    Function *function_at(int index);
+    Function *function_named(const char *name);
+
+    Variable *variable_at(int index);
+    Variable *variable_named(const char *name);
+    const char *variable_text_of(Variable *variable, int precision, bool definition);
 
     // Relational worker shared by the six comparisons.
     template <class Relation>
@@ -186,6 +283,9 @@ private:
     bool implicit_mult = false;
 
     std::string answer_text;
+    std::string variable_text;
+    std::string function_text, function_text_ex;
+    int splices = 0;
 
     MapmNumber parser_mapm_values[6]{};
     M_APM mapm_r1 = &parser_mapm_values[0], mapm_r2 = &parser_mapm_values[1];

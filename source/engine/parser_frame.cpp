@@ -30,6 +30,8 @@ Parser::~Parser() { reset(); }
 void Parser::set_message_hook(MessageHook hook) {
     message_hook_storage = std::move(hook);
     Mathematics::set_message_hook(&message_hook_storage);
+    variables.set_message_hook(&message_hook_storage);
+    functions.set_message_hook(&message_hook_storage);
 }
 
 const char *Parser::eval_exp(const char *text, bool silentMode, bool showEquals) {
@@ -46,6 +48,10 @@ const char *Parser::eval_exp(const char *text, complex &result, bool silentMode,
     SetSilentMode(silentMode);
     show_equals = showEquals;
     ClearLastError();
+    // A line that fails before its grammar runs must not inherit the last line's flags.
+    assignment_made = false;
+    function_declared = false;
+    splices = 0;
     std::ostringstream answer;
     init_number_stream(answer, *answer_format);
     ++recovery_points;
@@ -163,13 +169,6 @@ void Parser::raise(const std::string &text, const char *caption, int number) {
 
 void Parser::parser_exception(int number) {
     raise(messages::parser_error(number), messages::kParserCaption, number);
-}
-
-std::string Parser::format_message(const char *format, const char *argument) {
-    const int size = std::snprintf(nullptr, 0, format, argument);
-    std::string text(static_cast<std::size_t>(size > 0 ? size : 0), '\0');
-    std::snprintf(text.data(), text.size() + 1, format, argument);
-    return text;
 }
 
 void Parser::special_exception(const char *format, const char *argument) {

@@ -47,6 +47,29 @@ inline constexpr const char *kNotAFunction = "' %s ' can not be identified as a 
 inline constexpr const char *kVariableLocked =
     "Variable ' %s ' has been temporarily locked by another running process!";
 inline constexpr const char *kNoValueFound = "No value for variable ' %s ' could be found!";
+inline constexpr const char *kCommaExpected =
+    "Comma expected after high limit in incremental variable declaration Of ' %s '";
+inline constexpr const char *kEqualLimits =
+    "The lower and higher incremental limits for ' %s ' can not be equal";
+inline constexpr const char *kPointsNotInteger =
+    "The number of increments must be an integer in variable declaration of ' %s '";
+inline constexpr const char *kNotAFunctionOf =
+    "Invalid function declaration,\n' %s ' is not a function of ' %s '!";
+inline constexpr const char *kFunctionOfItself = "Function ' %s ' can not be a function of itself!";
+inline constexpr const char *kLibraryBracketExpected =
+    "Bracket of type ' [ ' expected for call to function ' %s ' !";
+inline constexpr const char *kNotDefinedAsFunction = "' %s ' is not currently defined as a function!";
+inline constexpr const char *kVariableNotDefined = "Variable ' %s ' Has Not Yet Been Defined!";
+inline constexpr const char *kEvaluatedOnItself = "Function \"%s\" Can Not Be Evaluated On Itself!";
+inline constexpr const char *kArgumentCountOne =
+    "Function ' %s ' requires ' %d ' dependent variables, ' %d ' was used! Commas may only be "
+    "used to separate function parameters or define an incremental variable!";
+inline constexpr const char *kArgumentCountMany =
+    "Function ' %s ' requires ' %d ' dependent variables, ' %d ' were used! Commas may only be "
+    "used to separate function parameters or define an incremental variable!";
+inline constexpr const char *kExpansionWithoutEnd =
+    "Function ' %s ' is expanded without end: functions that call each other in a circle can "
+    "not be evaluated!";
 inline constexpr const char *kTooManyDigits =
     "The specified operation on the number ' %s ' can not be performed because this number has "
     "more significant digits than the operation can support.";

@@ -16,28 +16,6 @@ bool Parser::is_constant(const char *) const { return false; }
 
 long double Parser::get_constant_value(const char *) const { return 0.0L; }
 
-bool Parser::is_variable(const char *) const { return false; }
-
-bool Parser::var_assigned(const char *) const { return false; }
-
-bool Parser::is_var_locked(const char *) const { return false; }
-
-complex Parser::get_var_value(const char *) const { return complex{}; }
-
 bool Parser::is_library_function(const char *) { return false; }
-
-bool Parser::user_function_full_name(const char *, std::string &) const { return false; }
-
-void Parser::declare_variable(complex &, std::ostream &, const char *name) {
-    special_exception(messages::kNotVariableOrConstant, name);
-}
-
-void Parser::declare_unassigned_variable(const char *) {}
-
-void Parser::declare_function() { parser_exception(1); }
-
-void Parser::insert_functions() {}
-
-void Parser::insert_brackets(char *, int) {}
 
 }  // namespace quindar

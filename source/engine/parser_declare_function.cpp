@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Quindar developers
+// The line form `f[x,y] = body`: checks the body against the names it may use and
+// stores it, blanks removed.
+#include <algorithm>
+#include <cstring>
+
+#include "evaluation_abort.h"
+#include "parser.h"
+#include "parser_messages.h"
+
+namespace quindar {
+
+namespace {
+
+// The source spelling of a relational token.
+std::string spelling(const std::string &token, char type) {
+    if (type != kDelimiter || token.empty()) return token;
+    switch (token[0]) {
+        case kLess: return "<";
+        case kLessEqual: return "<=";
+        case kGreater: return ">";
+        case kGreaterEqual: return ">=";
+        case kEqual: return "==";
+        case kNotEqual: return "!=";
+        default: return token;
+    }
+}
+
+bool is_word(char type) { return type == kName || type == kNumber; }
+
+}  // namespace
+
+void Parser::check_declaration_body(const std::string &fullName, const std::string &shortName,
+                                    const std::vector<std::string> &parameters, char *body) {
+    for (const auto &parameter : parameters) {
+        bool found = false;
+        prog = body;
+        while (!found && get_token() != nullptr && !at_end())
+            found = token_type == kName && token == parameter;
+        if (!found)
+            raise(format_message(messages::kNotAFunctionOf, fullName.c_str(), parameter.c_str()),
+                  messages::kParserCaption, -1);
+    }
+    prog = body;
+    while (get_token() != nullptr && !at_end()) {
+        if (token_type != kName) continue;
+        const bool call = *prog == '[';
+        const char *name = token.c_str();
+        if (call && token == shortName) special_exception(messages::kFunctionOfItself, name);
+        if (is_function(name) || is_internal_function(name) >= 0 || is_constant(name) ||
+            is_variable(name))
+            continue;
+        if (call) special_exception(messages::kNotDefinedAsFunction, name);
+        if (std::find(parameters.begin(), parameters.end(), token) == parameters.end())
+            special_exception(messages::kVariableNotDefined, name);
+    }
+}
+
+void Parser::declare_function() {
+    prog = expr_start;
+    get_token();
+    const std::string short_name = token;
+    std::string full_name = token;
+    std::vector<std::string> parameters;
+    while (get_token() != nullptr && !at_end() && !token_is('=')) {
+        full_name += token;
+        if (token_type == kName) parameters.push_back(token);
+    }
+    char *const body = prog;
+    check_declaration_body(full_name, short_name, parameters, body);
+
+    std::string value;
+    char previous_type = kDelimiter;
+    prog = body;
+    while (get_token() != nullptr && !at_end()) {
+        // Blanks go, but two words must not run into one.
+        if (is_word(previous_type) && is_word(token_type)) value += ' ';
+        value += spelling(token, token_type);
+        previous_type = token_type;
+    }
+    if (find_function(full_name.c_str()) < 0) add_new_function(full_name.c_str(), nullptr);
+    assignment_made = true;
+    find_function(full_name.c_str());
+    set_func_value(value.c_str(), nullptr);
+    function_declared = true;
+    // The line is done: nothing of it is to be computed.
+    throw EvaluationAbort{};
+}
+
+}  // namespace quindar
