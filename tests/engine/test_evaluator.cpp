@@ -5,28 +5,15 @@
 
 #include <string>
 
+#include "line_table.h"
 #include "parser.h"
 
 namespace quindar {
 namespace {
 
-struct LineCase {
-    const char *line;
-    const char *expected;  // " = answer", or the error text
-};
-
-std::string evaluate(Parser &parser, const char *line) {
-    const char *answer = parser.eval_exp(line, true, true);
-    if (parser.IsAnError()) return parser.GetLastError() ? parser.GetLastError() : "(no text)";
-    return answer;
-}
-
-void check(const LineCase *begin, const LineCase *end) {
-    Parser parser("", "");
-    for (const LineCase *c = begin; c != end; ++c) EXPECT_EQ(evaluate(parser, c->line), c->expected) << c->line;
-}
-
-#define CHECK_TABLE(table) check(std::begin(table), std::end(table))
+using testing::check_lines;
+using testing::evaluate;
+using testing::LineCase;
 
 TEST(Literals, NumbersPointsAndScientificForms) {
     const LineCase table[] = {
@@ -54,7 +41,7 @@ TEST(Literals, NumbersPointsAndScientificForms) {
         {"1e-308", "Numbers smaller than 1.0e-307 can not be computed!"},
         {"0e-400", " = 0"},
     };
-    CHECK_TABLE(table);
+    check_lines(table);
 }
 
 TEST(Literals, ImaginaryUnit) {
@@ -64,7 +51,7 @@ TEST(Literals, ImaginaryUnit) {
         {"i = 2", "The character ' i ' is reserved for complex numbers, it can not be assigned a value!"},
         {"1-i", " = 1-i"},   {"2+i", " = 2+i"}, {"(1+i)i", " = -1+i"},
     };
-    CHECK_TABLE(table);
+    check_lines(table);
 }
 
 TEST(Operators, EachOperatorThroughDecimalArithmetic) {
@@ -98,7 +85,7 @@ TEST(Operators, EachOperatorThroughDecimalArithmetic) {
         {"(1+2i)/(3-i)", " = 0.1+0.7i"},
         {"1/i", " = -i"},
     };
-    CHECK_TABLE(table);
+    check_lines(table);
 }
 
 TEST(Operators, PrecedenceAndAssociativity) {
@@ -110,7 +97,7 @@ TEST(Operators, PrecedenceAndAssociativity) {
         {"3!!", "Syntax error!"}, {"+5", " = 5"},       {"2*3^2", " = 18"},
         {"-(2+3)", " = -5"},
     };
-    CHECK_TABLE(table);
+    check_lines(table);
 }
 
 TEST(Operators, ImplicitMultiplication) {
@@ -119,7 +106,7 @@ TEST(Operators, ImplicitMultiplication) {
         {"5!(2)", " = 240"},   {"5!2", "Syntax error!"}, {"2 3", "Syntax error!"},
         {"(2)(3)(4)", " = 24"}, {"2(3)(4)", " = 24"},   {"(1+i)(1-i)", " = 2"},
     };
-    CHECK_TABLE(table);
+    check_lines(table);
 }
 
 TEST(Operators, ComparisonChains) {
@@ -132,7 +119,7 @@ TEST(Operators, ComparisonChains) {
         {"(1 < 2) + 1", " = 2"}, {"3 > 2 > 1 > 0", " = 1"}, {"1 < = 2", "Syntax error!"},
         {"1 < 0 < 1/0", "Division By Zero Encountered!"},
     };
-    CHECK_TABLE(table);
+    check_lines(table);
 }
 
 TEST(Errors, EveryRaisedMessageOfTheGrammar) {
@@ -161,13 +148,14 @@ TEST(Errors, EveryRaisedMessageOfTheGrammar) {
         {"x = a, b, 5", "A comma ' , ' can only be used to separate function parameters or define an incremental variable!"},
         {"x = -1, -10, 5", "A comma ' , ' can only be used to separate function parameters or define an incremental variable!"},
         {"x", "' x ' Could Not Be Identified As A Variable Or Function."},
+        {"x y", "' x ' can not be identified as a variable or a constant!"},
         {"x + 1", "' x ' can not be identified as a variable or a constant!"},
         {"1 + x", "' x ' can not be identified as a variable or a constant!"},
         {"sin[1]", "' sin ' can not be identified as a function!"},
         {"f[2] = 3", "' f ' can not be identified as a function!"},
         {"sin[1", "Unbalanced function brackets in expression!"},
     };
-    CHECK_TABLE(table);
+    check_lines(table);
 }
 
 TEST(Errors, NumberOfTheLatestError) {
