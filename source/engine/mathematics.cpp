@@ -4,6 +4,7 @@
 
 #include <climits>
 #include <cmath>
+#include <complex>
 #include <cstring>
 
 #include "evaluation_abort.h"
@@ -120,6 +121,12 @@ void Mathematics::basecon(long double number, long double base, char *text) {
     if (negative) text[out++] = '-';
     while (n > 0) text[out++] = reversed[--n];
     text[out] = '\0';
+}
+
+complex Mathematics::logarithm(complex z, long double base) {
+    const std::complex<double> log10_z = std::log10(std::complex<double>(z.real, z.imag));
+    const double scale = static_cast<double>(std::log10(base));
+    return complex{log10_z.real() / scale, log10_z.imag() / scale};
 }
 
 long double Mathematics::gcd(long double a, long double b) {

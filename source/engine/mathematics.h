@@ -34,6 +34,8 @@ public:
     static bool is_delim(char c);
     // number in base (2 to 16) as text; `text` holds at least 65 bytes.
     static void basecon(long double number, long double base, char *text);
+    // The base-10 logarithm of z in double precision, both parts divided by log10(base).
+    static complex logarithm(complex z, long double base);
     static long double gcd(long double a, long double b);
     static long double lcm(long double a, long double b);
     static void swap(long double &a, long double &b);

@@ -40,7 +40,11 @@ enum RelationalCode : char {
 // The working copy of a line, with everything spliced into it, holds this many bytes.
 inline constexpr std::size_t kExpressionSize = 1024;
 
+class EmbeddedCalls;
+
 class Parser : public Mathematics {
+    friend class EmbeddedCalls;
+
 public:
     Parser(const char *libraryDir, const char *userLibraryDir);
     ~Parser();
@@ -173,12 +177,48 @@ public:
 
     DynArray<Function, 10> functions;
 
+    // The embedded functions and constants.
+    int internal_function(const char *name) const;
+    bool is_internal_function(const char *name) const;
+    const char *get_function_name(int index) const;
+    int constant_index(const char *name) const;
+    bool is_constant(const char *name) const;
+    const char *get_constant_name(int index) const;
+    long double get_constant_value(const char *name) const;
+
     // Raising. Each stores its message, shows it unless silent, then leaves for the
     // recovery point of eval_exp, or returns while a map is being solved.
     void parser_exception(int number);
     void special_exception(const char *format, const char *argument);
     void special_exception(const char *format, char argument);
     void special_exception();
+    // A function library error: message `number` with the name of function `functionIndex`
+    // (-1 for none) and, for the messages that take one, `text` before it.
+    void mathlib_exception(int number, int functionIndex, const char *text);
+
+    // Parameter fetching of the embedded functions: each reads its values from the token
+    // stream through the comparison level and checks the form of the call.
+    void get_one_par(std::ostream &answer, complex &a, int fn);
+    void get_two_pars(std::ostream &answer, complex &a, complex &b, int fn);
+    void get_three_pars(std::ostream &answer, complex &a, complex &b, complex &c, int fn);
+    void get_four_pars(std::ostream &answer, complex &a, complex &b, complex &c, complex &d, int fn);
+    void get_one_real_par(std::ostream &answer, complex &a, int fn);
+    void get_two_real_pars(std::ostream &answer, complex &a, complex &b, int fn);
+    void get_three_real_pars(std::ostream &answer, complex &a, complex &b, complex &c, int fn);
+    void get_four_real_pars(std::ostream &answer, complex &a, complex &b, complex &c, complex &d,
+                            int fn);
+    void get_two_real_pos_pars(std::ostream &answer, complex &a, complex &b, int fn);
+    void check_no_right_bracket(int number, int fn);
+    void check_right_bracket(int number, int fn);
+    void check_no_right_brace(int number, int fn);
+    void check_left_brace(int number, int fn);
+    void check_comma(int number, int fn);
+    void check_no_comma(int number, int fn);
+    void check_more(int number, int fn);
+    void check_no_other_parameter(int number, int fn);
+    bool check_no_imag_compnts(int number, int fn, const complex &c1, const complex &c2 = {},
+                               const complex &c3 = {}, const complex &c4 = {});
+    bool check_pos_integers(int fn, const complex &c1, const complex &c2);
 
     // Settings read by the list windows, the trigonometric functions and documents.
     bool use_square_brackets = true;
@@ -246,10 +286,7 @@ private:
     complex compare(char code, bool &chain, const complex &left, const complex &right);
 
     // Names that later tables answer; until then they find nothing.
-    int is_internal_function(const char *name) const;
-    void internal_function(int index, complex &value, std::ostream &answer);
-    bool is_constant(const char *name) const;
-    long double get_constant_value(const char *name) const;
+    complex call_internal_function(int index, std::ostream &answer);
     bool is_library_function(const char *name);
     bool user_function_full_name(const char *name, std::string &fullName);
     void declare_variable(complex &value, std::ostream &answer, const char *name);

@@ -48,7 +48,7 @@ void Parser::check_declaration_body(const std::string &fullName, const std::stri
         const bool call = *prog == '[';
         const char *name = token.c_str();
         if (call && token == shortName) special_exception(messages::kFunctionOfItself, name);
-        if (is_function(name) || is_internal_function(name) >= 0 || is_constant(name) ||
+        if (is_function(name) || is_internal_function(name) || is_constant(name) ||
             is_variable(name))
             continue;
         if (call) special_exception(messages::kNotDefinedAsFunction, name);

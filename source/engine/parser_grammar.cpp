@@ -24,12 +24,12 @@ void Parser::eval_exp0(complex &value, std::ostream &answer) {
         putback();
         copy_token_back(kNumber, "i");
     }
-    if (token_type == kName && is_internal_function(token.c_str()) < 0) {
+    if (token_type == kName && !is_internal_function(token.c_str())) {
         const std::string name = token;
         if (is_function_declaration()) {
             prog = expr_start;
             get_token();
-            if (is_internal_function(token.c_str()) >= 0)
+            if (is_internal_function(token.c_str()))
                 special_exception(messages::kEmbeddedRedefined, token.c_str());
             if (is_library_function(token.c_str()))
                 special_exception(messages::kLibraryRedefined, token.c_str());
@@ -220,11 +220,11 @@ void Parser::atom_name(complex &value, std::ostream &answer) {
             while (*after == ' ' || *after == '\t') ++after;
             if (*after == '=') special_exception(messages::kFunctionRedefined, token.c_str());
         }
-        const int index = is_internal_function(token.c_str());
+        const int index = internal_function(token.c_str());
         if (index < 0) special_exception(messages::kNotAFunction, token.c_str());
         get_token();
         get_token();
-        internal_function(index, value, answer);
+        value = call_internal_function(index, answer);
         if (!token_is(']')) parser_exception(3);
     } else if (is_constant(token.c_str())) {
         value = complex{static_cast<double>(get_constant_value(token.c_str())), 0.0};

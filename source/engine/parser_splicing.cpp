@@ -26,7 +26,7 @@ void Parser::insert_brackets(char *text, int mode) {
         char *const behind = prog;
         if (*behind != opening) continue;
         bool call = find_function(token.c_str()) >= 0 ||
-                    is_internal_function(token.c_str()) >= 0 ||
+                    is_internal_function(token.c_str()) ||
                     is_library_function(token.c_str());
         if (!call && mode == 1) call = is_function_declaration();
         prog = behind;

@@ -195,7 +195,7 @@ bool Parser::is_function_declaration() {
         get_token();
         declaration += token;
         if (token_type != kName) return false;
-        if (is_internal_function(token.c_str()) >= 0)
+        if (is_internal_function(token.c_str()))
             special_exception(messages::kParameterIsFunction, token.c_str());
         if (is_constant(token.c_str()))
             special_exception(messages::kParameterIsConstant, token.c_str());

@@ -151,9 +151,9 @@ TEST(Errors, EveryRaisedMessageOfTheGrammar) {
         {"x y", "' x ' can not be identified as a variable or a constant!"},
         {"x + 1", "' x ' can not be identified as a variable or a constant!"},
         {"1 + x", "' x ' can not be identified as a variable or a constant!"},
-        {"sin[1]", "' sin ' can not be identified as a function!"},
+        {"nofunc[1]", "' nofunc ' can not be identified as a function!"},
         {"f[2] = 3", "' f ' can not be identified as a function!"},
-        {"sin[1", "Unbalanced function brackets in expression!"},
+        {"POW[1", "Unbalanced function brackets in expression!"},
     };
     check_lines(table);
 }

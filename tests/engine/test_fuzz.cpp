@@ -4,10 +4,13 @@
 // failure speaks one of the engine's own messages.
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <random>
+#include <regex>
 #include <string>
 #include <vector>
 
+#include "embedded_tables.h"
 #include "mathematics.h"
 #include "parser.h"
 #include "parser_messages.h"
@@ -15,16 +18,21 @@
 namespace quindar {
 namespace {
 
-// True when text is the format with its one %s or %c filled in.
+// True when text is the format with each %s, %c or %d filled in.
 bool matches_format(const std::string &text, const std::string &format) {
-    for (const char *marker : {"%s", "%c"}) {
-        const auto at = format.find(marker);
-        if (at == std::string::npos) continue;
-        const std::string before = format.substr(0, at), after = format.substr(at + 2);
-        return text.size() >= before.size() + after.size() && text.compare(0, before.size(), before) == 0 &&
-               text.compare(text.size() - after.size(), after.size(), after) == 0;
+    std::string pattern;
+    for (std::size_t i = 0; i < format.size(); ++i) {
+        if (format[i] == '%' && i + 1 < format.size() && std::strchr("scd", format[i + 1])) {
+            pattern += "[\\s\\S]*";
+            ++i;
+        } else if (std::strchr("\\^$.|?*+()[]{}", format[i])) {
+            pattern += '\\';
+            pattern += format[i];
+        } else {
+            pattern += format[i];
+        }
     }
-    return text == format;
+    return std::regex_match(text, std::regex(pattern));
 }
 
 bool is_known_message(const std::string &text) {
@@ -41,10 +49,17 @@ bool is_known_message(const std::string &text) {
         messages::kConstantAssigned,     messages::kMissingFunctionBracket,
         messages::kFunctionRedefined,    messages::kNotAFunction,
         messages::kVariableLocked,       messages::kNoValueFound,
-        messages::kTooManyDigits,
+        messages::kTooManyDigits,        messages::kCommaExpected,
+        messages::kEqualLimits,          messages::kPointsNotInteger,
+        messages::kNotAFunctionOf,       messages::kFunctionOfItself,
+        messages::kNotDefinedAsFunction, messages::kVariableNotDefined,
+        messages::kEvaluatedOnItself,    messages::kArgumentCountOne,
+        messages::kArgumentCountMany,    messages::kExpansionWithoutEnd,
     };
     for (const char *format : formats)
         if (matches_format(text, format)) return true;
+    for (int n = 0; n < mathlib::kMathlibMessageCount; ++n)
+        if (matches_format(text, mathlib::mathlib_message(n))) return true;
     return false;
 }
 
@@ -75,7 +90,7 @@ TEST(Fuzz, TokenSoups) {
     const std::vector<std::string> pieces = {
         "1", "0", "2.5", ".5", "5.", "1e+3", "1e-3", "e", "E", "i", "3i", "x", "(", ")", "[", "]",
         "{", "}", "+", "-", "*", "/", "%", "^", "!", "<", "<=", ">", ">=", "==", "!=", "=", ",",
-        " ", "\t", "1.2.3", "1e+400", "sin", "PI", "99999999999999999999", "0.000000001", "_",
+        " ", "\t", "1.2.3", "1e+400", "sin", "PI", "POW[", "AND[", "RTOP[", "LOG[", "IF[", "e", "99999999999999999999", "0.000000001", "_",
     };
     std::mt19937 engine(2);
     Parser parser("", "");

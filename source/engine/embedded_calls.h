@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Quindar developers
+#pragma once
+
+// The handlers of the embedded functions. Each fetches its own parameters from the
+// evaluator, then computes through a worker that the map solver shares.
+
+#include <ostream>
+
+#include "complex.h"
+
+namespace quindar {
+
+class Parser;
+
+class EmbeddedCalls {
+public:
+    using Handler = complex (*)(Parser &, std::ostream &);
+    // The handler of function `index` of the table; null while its computation has not
+    // arrived.
+    static Handler handler(int index);
+
+    // General and complex functions.
+    static complex call_pow(Parser &p, std::ostream &answer);
+    static complex call_cubert(Parser &p, std::ostream &answer);
+    static complex call_logarithm(Parser &p, std::ostream &answer);
+    static complex call_gcd(Parser &p, std::ostream &answer);
+    static complex call_lcm(Parser &p, std::ostream &answer);
+    static complex call_rtop(Parser &p, std::ostream &answer);
+    static complex call_ptor(Parser &p, std::ostream &answer);
+    static complex call_basecon(Parser &p, std::ostream &answer);
+    static complex call_real(Parser &p, std::ostream &answer);
+    static complex call_imag(Parser &p, std::ostream &answer);
+    static complex call_norm(Parser &p, std::ostream &answer);
+    static complex call_mag(Parser &p, std::ostream &answer);
+    static complex call_angle(Parser &p, std::ostream &answer);
+    static complex call_polar(Parser &p, std::ostream &answer);
+    static complex call_conj(Parser &p, std::ostream &answer);
+    // Logical functions.
+    static complex call_and(Parser &p, std::ostream &answer);
+    static complex call_or(Parser &p, std::ostream &answer);
+    static complex call_not(Parser &p, std::ostream &answer);
+    static complex call_if(Parser &p, std::ostream &answer);
+
+private:
+    static int index_of(const char *name);
+    static complex logical_chain(Parser &p, std::ostream &answer, const char *name, bool isAnd);
+    static void check_whole_line(Parser &p, int fn);
+};
+
+}  // namespace quindar
