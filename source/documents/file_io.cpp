@@ -99,7 +99,8 @@ bool replace_file_content(const std::string &path, std::string_view content) {
     struct stat status {};
     if (::stat(path.c_str(), &status) == 0) {
         if (!S_ISREG(status.st_mode)) return false;
-        if (::access(path.c_str(), W_OK) != 0) return false;
+        // A file that nobody may write is read-only, for the superuser too.
+        if ((status.st_mode & 0222) == 0 || ::access(path.c_str(), W_OK) != 0) return false;
         mode = status.st_mode & 07777;
         exists = true;
     } else if (errno != ENOENT) {

@@ -14,7 +14,8 @@ std::optional<std::string> read_whole_file(const std::string &path);
 
 // Replaces the file's content: the bytes go to a new file in the same folder, which then
 // takes the file's place by a rename, so that a failure at any point leaves the old file
-// as it was. An existing file keeps its permissions; a read-only file is refused.
+// as it was. An existing file keeps its permissions; a read-only file (one the process may not
+// write, or one without any write permission) is refused.
 bool replace_file_content(const std::string &path, std::string_view content);
 
 }  // namespace quindar

@@ -205,29 +205,40 @@ bool VarFunIniFile::GetFuncFullName(const char *name, char *buffer, int size,
     return false;
 }
 
+// Longest name and longest value of the section's list, each plus 1; 0 for an empty list.
+void VarFunIniFile::LongestNameAndValue(long &name, long &value) {
+    name = value = 0;
+    auto names = SectionList();
+    if (names.empty()) return;
+    auto values = ScanFunctionValues(names);
+    std::size_t longest = 0;
+    for (const auto &entry : names) longest = std::max(longest, entry.size());
+    name = static_cast<long>(longest) + 1;
+    if (!values) return;
+    longest = 0;
+    for (const auto &text : *values) longest = std::max(longest, text.size());
+    value = static_cast<long>(longest) + 1;
+}
+
 long VarFunIniFile::SizeOfLongestFuncName(const char *category) {
     if (!SelectCategory(category)) return 0;
-    std::size_t longest = 0;
-    auto names = SectionList();
-    if (names.empty()) return 0;
-    for (const auto &name : names) longest = std::max(longest, name.size());
-    return static_cast<long>(longest) + 1;
+    long name, value;
+    LongestNameAndValue(name, value);
+    return name;
 }
 
 long VarFunIniFile::SizeOfLongestFuncValue(const char *category) {
     if (!SelectCategory(category)) return 0;
-    auto names = SectionList();
-    if (names.empty()) return 0;
-    auto values = ScanFunctionValues(names);
-    if (!values) return 0;
-    std::size_t longest = 0;
-    for (const auto &value : *values) longest = std::max(longest, value.size());
-    return static_cast<long>(longest) + 1;
+    long name, value;
+    LongestNameAndValue(name, value);
+    return value;
 }
 
 long VarFunIniFile::SizeOfLongestFuncNameAndValue(const char *category) {
     if (!SelectCategory(category)) return 0;
-    return SizeOfLongestFuncName(nullptr) + SizeOfLongestFuncValue(nullptr) + 3;
+    long name, value;
+    LongestNameAndValue(name, value);
+    return name + value + 3;
 }
 
 }  // namespace quindar

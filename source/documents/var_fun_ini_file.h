@@ -119,6 +119,7 @@ private:
     std::optional<std::vector<std::string>> ScanFunctionValues(
         const std::vector<std::string> &names);
     std::vector<std::string> SectionList();
+    void LongestNameAndValue(long &name, long &value);
 
     bool usable;
     std::string errorMessage;
