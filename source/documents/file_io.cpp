@@ -57,8 +57,7 @@ int create_temporary_beside(const std::filesystem::path &target, mode_t mode,
     for (int attempt = 0; attempt < 100; ++attempt) {
         char tail[20];
         std::snprintf(tail, sizeof tail, ".~%08x", static_cast<unsigned>(entropy()));
-        std::filesystem::path candidate =
-            folder / ("." + target.filename().string() + tail);
+        std::filesystem::path candidate = folder / ("." + target.filename().string() + tail);
         int fd = ::open(candidate.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
         if (fd >= 0) {
             temporary = candidate.string();

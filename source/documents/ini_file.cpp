@@ -35,7 +35,9 @@ long field_number(std::string_view field) {
     return negative ? -magnitude : magnitude;
 }
 
-std::uint8_t low_byte(long value) { return static_cast<std::uint8_t>(value & 0xff); }
+std::uint8_t low_byte(long value) {
+    return static_cast<std::uint8_t>(value & 0xff);
+}
 
 }  // namespace
 

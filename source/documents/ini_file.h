@@ -26,8 +26,7 @@ public:
     // "x,y,z", each field a text that may be empty; leading white space of a field is
     // skipped and each is cut to size - 1 bytes. The outputs start empty. True if at least
     // one coordinate was stored.
-    bool GetPoint(const char *section, const char *key, char *x, char *y, char *z,
-                  int size) const;
+    bool GetPoint(const char *section, const char *key, char *x, char *y, char *z, int size) const;
 
 protected:
     std::string fileName;

@@ -19,8 +19,7 @@ std::optional<LibraryFunctionText> lib_function_text(VarFunIniFile &library, con
     return LibraryFunctionText{full.data(), value.data()};
 }
 
-std::optional<LibraryFunctionText> find_library_function(VarFunIniFile &library,
-                                                         const char *name) {
+std::optional<LibraryFunctionText> find_library_function(VarFunIniFile &library, const char *name) {
     if (name == nullptr) return std::nullopt;
     long size = library.SizeOfFunctionCatagories();
     if (size <= 0) return std::nullopt;

@@ -23,7 +23,6 @@ std::optional<LibraryFunctionText> lib_function_text(VarFunIniFile &library, con
 
 // The search of a whole library: each category in file order becomes the function flag in
 // turn, and the first one that holds the name ends the search (that category stays set).
-std::optional<LibraryFunctionText> find_library_function(VarFunIniFile &library,
-                                                         const char *name);
+std::optional<LibraryFunctionText> find_library_function(VarFunIniFile &library, const char *name);
 
 }  // namespace quindar

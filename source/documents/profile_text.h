@@ -22,7 +22,7 @@ public:
     enum class Kind { Other, Header, Key };
 
     struct Line {
-        std::size_t begin = 0;  // offset of the first byte
+        std::size_t begin = 0;     // offset of the first byte
         std::size_t text_end = 0;  // offset of the line end
         std::size_t end = 0;       // offset behind the line end
         Kind kind = Kind::Other;

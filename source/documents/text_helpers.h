@@ -8,15 +8,25 @@
 // and independent of the locale, so a file reads the same on every machine.
 namespace quindar::text {
 
-inline bool is_blank(char c) { return c == ' ' || c == '\t' || c == '\v' || c == '\f'; }
+inline bool is_blank(char c) {
+    return c == ' ' || c == '\t' || c == '\v' || c == '\f';
+}
 
-inline bool is_white(char c) { return is_blank(c) || c == '\r' || c == '\n'; }
+inline bool is_white(char c) {
+    return is_blank(c) || c == '\r' || c == '\n';
+}
 
-inline bool is_letter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
+inline bool is_letter(char c) {
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
 
-inline bool is_digit(char c) { return c >= '0' && c <= '9'; }
+inline bool is_digit(char c) {
+    return c >= '0' && c <= '9';
+}
 
-inline char lower(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; }
+inline char lower(char c) {
+    return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c;
+}
 
 inline bool equal_no_case(std::string_view a, std::string_view b) {
     if (a.size() != b.size()) return false;
@@ -38,7 +48,9 @@ inline std::string_view trim_right(std::string_view s) {
     return s.substr(0, n);
 }
 
-inline std::string_view trim(std::string_view s) { return trim_right(trim_left(s)); }
+inline std::string_view trim(std::string_view s) {
+    return trim_right(trim_left(s));
+}
 
 // The text a C string would hold: everything up to the first NUL.
 inline std::string_view up_to_nul(std::string_view s) {

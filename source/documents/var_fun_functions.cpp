@@ -13,10 +13,14 @@ namespace quindar {
 
 namespace {
 
-bool holds(std::string_view line, char c) { return line.find(c) != std::string_view::npos; }
+bool holds(std::string_view line, char c) {
+    return line.find(c) != std::string_view::npos;
+}
 
 // A line's text as the scanners compare it: up to a NUL, as a C string ends.
-std::string_view meaning(const LineScanner::Line &line) { return text::up_to_nul(line.text); }
+std::string_view meaning(const LineScanner::Line &line) {
+    return text::up_to_nul(line.text);
+}
 
 // Moves the scanner behind the first line that is exactly the header; false if there is none.
 bool skip_to_header(LineScanner &scanner, std::string_view header) {
@@ -111,11 +115,12 @@ std::optional<std::vector<std::string>> VarFunIniFile::ScanFunctionValues(
 // The section's names as they fit in a buffer of the section's measured size: the look-ups
 // below serve libraries, whose function section measures to the end of the file. In a
 // document the function section measures 0, so they find nothing there.
-std::vector<std::string> VarFunIniFile::SectionList() {
+std::optional<std::vector<std::string>> VarFunIniFile::SectionList() {
+    if (!PositionsKnown()) return std::nullopt;
     long size = SizeOfFunSection();
-    if (size <= 0) return {};
+    if (size <= 0) return std::vector<std::string>();
     auto names = ScanFunctionNames();
-    if (!names) return {};
+    if (!names) return std::nullopt;
     std::size_t used = 0;
     std::size_t room = static_cast<std::size_t>(size) - 1;
     std::size_t fitting = 0;
@@ -125,7 +130,7 @@ std::vector<std::string> VarFunIniFile::SectionList() {
         ++fitting;
     }
     names->resize(fitting);
-    return std::move(*names);
+    return names;
 }
 
 int VarFunIniFile::GetNumFunctions() {
@@ -182,7 +187,9 @@ bool VarFunIniFile::GetFunctionValue(const char *name, char *buffer, int size,
 
 bool VarFunIniFile::IsFunction(const char *name, const char *category) {
     if (!SelectCategory(category) || name == nullptr) return false;
-    for (const auto &entry : SectionList()) {
+    auto list = SectionList();
+    if (!list) return false;
+    for (const auto &entry : *list) {
         if (text::equal_no_case(entry, name)) return true;
         auto part = short_name(entry);
         if (part && text::equal_no_case(*part, name)) return true;
@@ -194,7 +201,9 @@ bool VarFunIniFile::GetFuncFullName(const char *name, char *buffer, int size,
                                     const char *category) {
     clear(buffer, size);
     if (!IsFunction(name, category)) return false;
-    for (const auto &entry : SectionList()) {
+    auto list = SectionList();
+    if (!list) return false;
+    for (const auto &entry : *list) {
         auto part = short_name(entry);
         if (!part || !text::equal_no_case(*part, name)) continue;
         if (buffer != nullptr && size > 0) {
@@ -205,19 +214,22 @@ bool VarFunIniFile::GetFuncFullName(const char *name, char *buffer, int size,
     return false;
 }
 
-// Longest name and longest value of the section's list, each plus 1; 0 for an empty list.
-void VarFunIniFile::LongestNameAndValue(long &name, long &value) {
+// Longest name and longest value of the section's list, each plus 1 (0 for an empty list);
+// false if the file could not be read.
+bool VarFunIniFile::LongestNameAndValue(long &name, long &value) {
     name = value = 0;
     auto names = SectionList();
-    if (names.empty()) return;
-    auto values = ScanFunctionValues(names);
+    if (!names) return false;
+    if (names->empty()) return true;
+    auto values = ScanFunctionValues(*names);
+    if (!values) return false;
     std::size_t longest = 0;
-    for (const auto &entry : names) longest = std::max(longest, entry.size());
+    for (const auto &entry : *names) longest = std::max(longest, entry.size());
     name = static_cast<long>(longest) + 1;
-    if (!values) return;
     longest = 0;
     for (const auto &text : *values) longest = std::max(longest, text.size());
     value = static_cast<long>(longest) + 1;
+    return true;
 }
 
 long VarFunIniFile::SizeOfLongestFuncName(const char *category) {
@@ -237,7 +249,7 @@ long VarFunIniFile::SizeOfLongestFuncValue(const char *category) {
 long VarFunIniFile::SizeOfLongestFuncNameAndValue(const char *category) {
     if (!SelectCategory(category)) return 0;
     long name, value;
-    LongestNameAndValue(name, value);
+    if (!LongestNameAndValue(name, value)) return 0;
     return name + value + 3;
 }
 

@@ -19,7 +19,9 @@ constexpr const char *kSetupFlag = "SETUP";
 constexpr const char *kFileAccessCaption = "File Access";
 constexpr const char *kNoFileName = "File Name Not Provided, File Could Not Be Opened!";
 
-bool has_text(const char *text) { return text != nullptr && *text != '\0'; }
+bool has_text(const char *text) {
+    return text != nullptr && *text != '\0';
+}
 
 long count_cr(std::string_view content) {
     return static_cast<long>(std::count(content.begin(), content.end(), '\r'));
@@ -27,8 +29,8 @@ long count_cr(std::string_view content) {
 
 }  // namespace
 
-VarFunIniFile::VarFunIniFile(const char *path, const char *functionFlag_,
-                             const char *variableFlag_, WarningHook warn_)
+VarFunIniFile::VarFunIniFile(const char *path, const char *functionFlag_, const char *variableFlag_,
+                             WarningHook warn_)
     : IniFile(path), usable(path != nullptr), warn(std::move(warn_)) {
     variableFlag.text = has_text(variableFlag_) ? variableFlag_ : kDefaultVariableFlag;
     functionFlag.text = has_text(functionFlag_) ? functionFlag_ : kDefaultFunctionFlag;
@@ -104,11 +106,17 @@ bool VarFunIniFile::FindFlags() {
     return true;
 }
 
-bool VarFunIniFile::FindVariableFlag() { return PositionsKnown() && variableFlag.position > 0; }
+bool VarFunIniFile::FindVariableFlag() {
+    return PositionsKnown() && variableFlag.position > 0;
+}
 
-bool VarFunIniFile::FindFunctionFlag() { return PositionsKnown() && functionFlag.position > 0; }
+bool VarFunIniFile::FindFunctionFlag() {
+    return PositionsKnown() && functionFlag.position > 0;
+}
 
-bool VarFunIniFile::FindSetupFlag() { return PositionsKnown() && setupFlag.position > 0; }
+bool VarFunIniFile::FindSetupFlag() {
+    return PositionsKnown() && setupFlag.position > 0;
+}
 
 long VarFunIniFile::SizeOfFile() {
     if (fileSize < 0 && !FindFlags()) return 0;
@@ -157,9 +165,13 @@ long VarFunIniFile::SectionSize(const Flag &self, const Flag &other) {
     return std::max(size, 0L);
 }
 
-long VarFunIniFile::SizeOfVarSection() { return SectionSize(variableFlag, functionFlag); }
+long VarFunIniFile::SizeOfVarSection() {
+    return SectionSize(variableFlag, functionFlag);
+}
 
-long VarFunIniFile::SizeOfFunSection() { return SectionSize(functionFlag, variableFlag); }
+long VarFunIniFile::SizeOfFunSection() {
+    return SectionSize(functionFlag, variableFlag);
+}
 
 // The first of the declaration sections, or the setup section when there is neither.
 const VarFunIniFile::Flag *VarFunIniFile::FirstDeclarationFlag() {

@@ -74,14 +74,12 @@ public:
     // The text behind the first "=" (leading white space skipped) of the first line behind the
     // section's header whose text up to that "=" equals name exactly, wherever it stands
     // further down. True if a non-empty value was found.
-    bool GetFunctionValue(const char *name, char *buffer, int size,
-                          const char *category = nullptr);
+    bool GetFunctionValue(const char *name, char *buffer, int size, const char *category = nullptr);
     // True if name equals an entry of the section's list, or the entry's part before its "[",
     // without regard to case.
     bool IsFunction(const char *name, const char *category = nullptr);
     // The whole entry whose part before "[" equals name without regard to case.
-    bool GetFuncFullName(const char *name, char *buffer, int size,
-                         const char *category = nullptr);
+    bool GetFuncFullName(const char *name, char *buffer, int size, const char *category = nullptr);
 
     // Length of the free text at the head of the file, CR bytes not counted.
     long GetStartOfDecs();
@@ -118,8 +116,8 @@ private:
     std::optional<std::vector<std::string>> ScanCategories();
     std::optional<std::vector<std::string>> ScanFunctionValues(
         const std::vector<std::string> &names);
-    std::vector<std::string> SectionList();
-    void LongestNameAndValue(long &name, long &value);
+    std::optional<std::vector<std::string>> SectionList();
+    bool LongestNameAndValue(long &name, long &value);
 
     bool usable;
     std::string errorMessage;

@@ -12,8 +12,7 @@ namespace quindar {
 // with none installed nothing is shown and the operation still fails cleanly.
 using WarningHook = std::function<void(std::string_view text, std::string_view caption)>;
 
-inline void show_warning(const WarningHook &hook, std::string_view text,
-                         std::string_view caption) {
+inline void show_warning(const WarningHook &hook, std::string_view text, std::string_view caption) {
     if (hook) hook(text, caption);
 }
 

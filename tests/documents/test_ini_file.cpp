@@ -27,8 +27,8 @@ TEST(IniFileColor, ThreeFieldsLowBytesOrTheDefault) {
         {"Graph Default Colors", "Background", true, 64, 128, 128},
         {"Graph Default Colors", "GraphForegrond", true, 255, 255, 255},
         {"Graph Default Colors", "TwoFields", false, 9, 8, 7},
-        {"Graph Default Colors", "Wrapped", true, 0, 1, 255},       // 256, 257, -1
-        {"Graph Default Colors", "FourFields", true, 1, 2, 3},      // after a third comma: ignored
+        {"Graph Default Colors", "Wrapped", true, 0, 1, 255},   // 256, 257, -1
+        {"Graph Default Colors", "FourFields", true, 1, 2, 3},  // after a third comma: ignored
         {"Graph Default Colors", "TrailingComma", true, 10, 20, 0},
         {"Graph Default Colors", "EmptyFields", true, 0, 0, 0},
         {"Graph Default Colors", "Words", true, 0, 0, 0},
@@ -41,8 +41,9 @@ TEST(IniFileColor, ThreeFieldsLowBytesOrTheDefault) {
     for (const auto &c : cases) {
         TColor value(1, 1, 1);
         EXPECT_EQ(ini.GetColor(c.section, c.key, deflt, value), c.found) << c.key;
-        EXPECT_EQ(value, TColor(static_cast<std::uint8_t>(c.red), static_cast<std::uint8_t>(c.green),
-                                static_cast<std::uint8_t>(c.blue)))
+        EXPECT_EQ(value,
+                  TColor(static_cast<std::uint8_t>(c.red), static_cast<std::uint8_t>(c.green),
+                         static_cast<std::uint8_t>(c.blue)))
             << c.key;
     }
 }
@@ -68,7 +69,7 @@ TEST(IniFilePoint, ThreeTextsSplitAtCommas) {
         {"FourFields", 16, true, "1", "2", "3"},
         {"Commas", 16, false, "", "", ""},
         {"Expressions", 16, true, "PI/2", "sin[1", "2]"},  // a comma splits wherever it is
-        {"Expressions", 3, true, "PI", "si", "2]"},         // each cut to size - 1
+        {"Expressions", 3, true, "PI", "si", "2]"},        // each cut to size - 1
         {"Missing", 16, false, "", "", ""},
     };
     IniFile ini(data_file("settings_lf.ini").c_str());

@@ -25,26 +25,26 @@ struct ValueCase {
 
 const ValueCase kValueCases[] = {
     {"OPTIONS", "Sound", "x", 64, "1"},
-    {"options", "SOUND", "x", 64, "1"},                  // names ignore case
-    {"  OPTIONS ", "  Sound\t", "x", 64, "1"},           // and blanks around them
+    {"options", "SOUND", "x", 64, "1"},                 // names ignore case
+    {"  OPTIONS ", "  Sound\t", "x", 64, "1"},          // and blanks around them
     {"OPTIONS", "IncrementalVariables", "x", 64, "0"},  // blanks in the file trimmed
     {"OPTIONS", "MediaPlayerPath", "", 64, "C:\\Program Files\\Player\\player.exe"},
     {"OPTIONS", "MediaPlayerPath", "", 8, "C:\\Prog"},  // cut to size - 1
     {"OPTIONS", "MediaPlayerPath", "", 1, ""},
-    {"OPTIONS", "Empty", "default", 64, ""},            // present but empty: not the default
+    {"OPTIONS", "Empty", "default", 64, ""},  // present but empty: not the default
     {"OPTIONS", "Spaced", "", 64, "42"},
-    {"OPTIONS", "Equation", "", 64, "a=b==c"},          // the key ends at the first "="
+    {"OPTIONS", "Equation", "", 64, "a=b==c"},  // the key ends at the first "="
     {"OPTIONS", "Missing", "fallback", 64, "fallback"},
     {"OPTIONS", "Missing", "fallback  \t", 64, "fallback"},  // default's trailing blanks go
     {"OPTIONS", "Missing", "fallback", 5, "fall"},
     {"OPTIONS", "Missing", nullptr, 64, ""},
-    {"OPTIONS", "NoEqualsLine", "d", 64, "d"},           // a line without "=" is no key
-    {"OPTIONS", "; Commented", "d", 64, "d"},            // nor is a comment
-    {"OPTIONS", "Window Width", "d", 64, "d"},           // keys of other sections stay there
+    {"OPTIONS", "NoEqualsLine", "d", 64, "d"},  // a line without "=" is no key
+    {"OPTIONS", "; Commented", "d", 64, "d"},   // nor is a comment
+    {"OPTIONS", "Window Width", "d", 64, "d"},  // keys of other sections stay there
     {"NO SECTION", "Sound", "d", 64, "d"},
     {"WINDOW ATTRIBUTES", "Window Width", "d", 64, "1000"},
-    {"Duplicate", "Key", "d", 64, "first"},              // the first key of the name wins
-    {"Duplicate", "Other", "d", 64, "d"},                // and the first section of the name
+    {"Duplicate", "Key", "d", 64, "first"},  // the first key of the name wins
+    {"Duplicate", "Other", "d", 64, "d"},    // and the first section of the name
 };
 
 TEST(ProfileRead, ValuesDefaultsAndCuts) {
@@ -53,8 +53,8 @@ TEST(ProfileRead, ValuesDefaultsAndCuts) {
         for (const auto &c : kValueCases) {
             char buffer[64];
             std::memset(buffer, '#', sizeof buffer);
-            std::size_t n = GetPrivateProfileString(c.section, c.key, c.deflt, buffer, c.size,
-                                                    path.c_str());
+            std::size_t n =
+                GetPrivateProfileString(c.section, c.key, c.deflt, buffer, c.size, path.c_str());
             EXPECT_STREQ(buffer, c.expected) << file << " [" << c.section << "] " << c.key;
             EXPECT_EQ(n, std::strlen(c.expected)) << file << " " << c.key;
         }
@@ -93,8 +93,8 @@ TEST(ProfileRead, KeyAndSectionLists) {
     for (const auto &c : cases) {
         char buffer[256];
         std::memset(buffer, '#', sizeof buffer);
-        std::size_t n = GetPrivateProfileString(c.section, nullptr, "ignored", buffer, c.size,
-                                                path.c_str());
+        std::size_t n =
+            GetPrivateProfileString(c.section, nullptr, "ignored", buffer, c.size, path.c_str());
         EXPECT_EQ(joined(buffer, c.size), c.expected) << (c.section ? c.section : "(sections)");
         EXPECT_EQ(n, c.returned) << (c.section ? c.section : "(sections)");
         // Every list ends in two NULs: the count leaves out the last one, or, when the list
@@ -128,17 +128,10 @@ struct IntCase {
 
 TEST(ProfileRead, IntegersAreSignedDecimalOrTheDefault) {
     const IntCase cases[] = {
-        {"Sound", 7, 1},
-        {"Hints", 7, 2},
-        {"Negative", 7, -2},
-        {"Plus", 7, 17},
-        {"Spaced", 7, 42},
-        {"Lead", 7, 12},  // digits first: what follows is ignored
-        {"Junk", 7, 7},   // not a number: the default
-        {"Empty", 7, 7},
-        {"SignOnly", 7, 7},
-        {"Missing", -2, -2},
-        {"Huge", 7, INT_MAX},
+        {"Sound", 7, 1},         {"Hints", 7, 2},    {"Negative", 7, -2}, {"Plus", 7, 17},
+        {"Spaced", 7, 42},       {"Lead", 7, 12},  // digits first: what follows is ignored
+        {"Junk", 7, 7},                            // not a number: the default
+        {"Empty", 7, 7},         {"SignOnly", 7, 7}, {"Missing", -2, -2}, {"Huge", 7, INT_MAX},
         {"NegHuge", 7, INT_MIN},
     };
     for (const char *file : {"settings_crlf.ini", "settings_lf.ini"}) {
@@ -157,10 +150,20 @@ struct IntTextCase {
 
 TEST(ProfileRead, IntegerTexts) {
     const IntTextCase cases[] = {
-        {"0", 0},           {"-0", 0},         {"  +5  ", 5},       {"2147483647", INT_MAX},
-        {"2147483648", INT_MAX}, {"-2147483648", INT_MIN}, {"-2147483649", INT_MIN},
-        {"12.7", 12},       {"1e5", 1},        {"- 5", -99},        {"0x10", 0},
-        {"", -99},          {"+", -99},        {"x1", -99},
+        {"0", 0},
+        {"-0", 0},
+        {"  +5  ", 5},
+        {"2147483647", INT_MAX},
+        {"2147483648", INT_MAX},
+        {"-2147483648", INT_MIN},
+        {"-2147483649", INT_MIN},
+        {"12.7", 12},
+        {"1e5", 1},
+        {"- 5", -99},
+        {"0x10", 0},
+        {"", -99},
+        {"+", -99},
+        {"x1", -99},
     };
     for (const auto &c : cases) EXPECT_EQ(profile_int(c.text, -99), c.expected) << c.text;
 }

@@ -51,7 +51,8 @@ TEST(VarFunDocument, FindsTheSectionsBehindTheFreeText) {
     EXPECT_EQ(doc.SizeOfAsciiFile(), twin.SizeOfFile());
     EXPECT_EQ(twin.SizeOfAsciiFile(), twin.SizeOfFile());
     EXPECT_EQ(twin.GetStartOfDecs(), doc.GetStartOfDecs());
-    EXPECT_EQ(doc.SizeOfLongestLine(), static_cast<long>(std::strlen("AnsZeroPrecision=1.0e-14")) + 2);
+    EXPECT_EQ(doc.SizeOfLongestLine(),
+              static_cast<long>(std::strlen("AnsZeroPrecision=1.0e-14")) + 2);
     EXPECT_TRUE(messages.shown.empty());
 }
 
@@ -59,8 +60,8 @@ TEST(VarFunDocument, SectionSizesInDocumentOrder) {
     ASSERT_NE(file_content(data_file("document.qnd")).find(kVariableSection), std::string::npos);
     for (const char *file : {"document.qnd", "document_lf.qnd"}) {
         VarFunIniFile doc(data_file(file).c_str());
-        const long expected = static_cast<long>(std::strlen(kVariableSection) -
-                                                std::strlen("DECLARED FUNCTIONS"));
+        const long expected =
+            static_cast<long>(std::strlen(kVariableSection) - std::strlen("DECLARED FUNCTIONS"));
         if (std::strcmp(file, "document.qnd") == 0) {
             EXPECT_EQ(doc.SizeOfVarSection(), expected);
         }
@@ -81,8 +82,8 @@ TEST(VarFunDocument, VariablesThroughTheProfileReads) {
         int size;
         const char *expected;
     } cases[] = {
-        {"a", 64, "3"}, {"B", 64, "?"}, {"t", 64, "0 (0,10,11,1)"}, {"t", 4, "0 ("},
-        {"x", 64, "?"},  // "x = 5 + 2" is free text, no key
+        {"a", 64, "3"},         {"B", 64, "?"}, {"t", 64, "0 (0,10,11,1)"},
+        {"t", 4, "0 ("},        {"x", 64, "?"},  // "x = 5 + 2" is free text, no key
         {"AngleType", 64, "?"},
     };
     for (const auto &c : cases) {
@@ -229,8 +230,8 @@ TEST(VarFunDocument, OwnWritesForgetTheCachedPositions) {
     const long before = doc.SizeOfFile();
     ASSERT_TRUE(doc.WriteVariable("a", "1"));
     EXPECT_TRUE(doc.FindVariableFlag());
-    EXPECT_EQ(doc.SizeOfFile(), before + static_cast<long>(std::strlen(
-                                             "[DECLARED VARIABLES]\r\na=1\r\n")));
+    EXPECT_EQ(doc.SizeOfFile(),
+              before + static_cast<long>(std::strlen("[DECLARED VARIABLES]\r\na=1\r\n")));
     EXPECT_EQ(doc.GetStartOfDecs(), static_cast<long>(std::strlen("Text\n")));
 }
 
