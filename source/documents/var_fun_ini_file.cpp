@@ -29,11 +29,11 @@ long count_cr(std::string_view content) {
 
 }  // namespace
 
-VarFunIniFile::VarFunIniFile(const char *path, const char *functionFlag_, const char *variableFlag_,
-                             WarningHook warn_)
-    : IniFile(path), usable(path != nullptr), warn(std::move(warn_)) {
-    variableFlag.text = has_text(variableFlag_) ? variableFlag_ : kDefaultVariableFlag;
-    functionFlag.text = has_text(functionFlag_) ? functionFlag_ : kDefaultFunctionFlag;
+VarFunIniFile::VarFunIniFile(const char *path, const char *functionFlagText,
+                             const char *variableFlagText, WarningHook warnHook)
+    : IniFile(path), usable(path != nullptr), warn(std::move(warnHook)) {
+    variableFlag.text = has_text(variableFlagText) ? variableFlagText : kDefaultVariableFlag;
+    functionFlag.text = has_text(functionFlagText) ? functionFlagText : kDefaultFunctionFlag;
     setupFlag.text = kSetupFlag;
     if (!usable) {
         show_warning(warn, kNoFileName, kFileAccessCaption);

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstring>
 #include <functional>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -189,6 +190,28 @@ TEST(VarFunRobustness, GarbageAndBinaryFilesDoNotBreakAnything) {
                                "document_fake_header.qnd", "settings_crlf.ini"}) {
         SCOPED_TRACE(golden);
         exercise(data_file(golden));
+    }
+}
+
+// Random files made of the bytes that mean something to the scanners, with a fixed seed so
+// that a failure repeats: every operation runs, and a key written into the file reads back.
+TEST(VarFunRobustness, RandomStructuralBytes) {
+    const char bytes[] = "[]=;,. \t\r\n\r\nabcAB1\xff";
+    const std::string alphabet(bytes, sizeof bytes);  // the closing NUL included
+    std::mt19937 random(20260101);
+    TempFolder folder;
+    const std::string path = folder.file("random.qnd");
+    for (int round = 0; round < 200; ++round) {
+        SCOPED_TRACE(round);
+        std::string content(random() % 400, ' ');
+        for (char &c : content) c = alphabet[random() % alphabet.size()];
+        write_content(path, content);
+        exercise(path);
+        auto sections = profile_sections(path);
+        const std::string section = sections.empty() ? "Fresh" : sections.front();
+        ASSERT_TRUE(WritePrivateProfileString(section.c_str(), "Q9k", "v 1", path.c_str()));
+        EXPECT_EQ(profile_value(path, section, "q9K"), "v 1");
+        EXPECT_GE(file_content(path).size(), content.size() + std::strlen("Q9k=v 1\r\n"));
     }
 }
 
