@@ -25,7 +25,8 @@ const HandlerRow kHandlers[] = {
     {"CANGLE", EmbeddedCalls::call_angle},  {"PTOC", EmbeddedCalls::call_polar},
     {"CONJ", EmbeddedCalls::call_conj},     {"AND", EmbeddedCalls::call_and},
     {"OR", EmbeddedCalls::call_or},         {"NOT", EmbeddedCalls::call_not},
-    {"IF", EmbeddedCalls::call_if},
+    {"IF", EmbeddedCalls::call_if},         {"HYPOT", EmbeddedCalls::call_hypot},
+    {"SRESIST", EmbeddedCalls::call_sresist}, {"PRESIST", EmbeddedCalls::call_presist},
 };
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <ostream>
 
 #include "complex.h"
+#include "dynarray.h"
 
 namespace quindar {
 
@@ -36,6 +37,10 @@ public:
     static complex call_angle(Parser &p, std::ostream &answer);
     static complex call_polar(Parser &p, std::ostream &answer);
     static complex call_conj(Parser &p, std::ostream &answer);
+    static complex call_hypot(Parser &p, std::ostream &answer);
+    // Electrical functions over a data list.
+    static complex call_sresist(Parser &p, std::ostream &answer);
+    static complex call_presist(Parser &p, std::ostream &answer);
     // Logical functions.
     static complex call_and(Parser &p, std::ostream &answer);
     static complex call_or(Parser &p, std::ostream &answer);
@@ -46,6 +51,9 @@ private:
     static int index_of(const char *name);
     static complex logical_chain(Parser &p, std::ostream &answer, const char *name, bool isAnd);
     static void check_whole_line(Parser &p, int fn);
+    // The brace argument of a list function, closed by its bracket.
+    static bool fetch_list(Parser &p, std::ostream &answer, DynArray<long double, 10> &list,
+                           int fn);
 };
 
 }  // namespace quindar

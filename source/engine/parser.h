@@ -208,6 +208,12 @@ public:
     void get_four_real_pars(std::ostream &answer, complex &a, complex &b, complex &c, complex &d,
                             int fn);
     void get_two_real_pos_pars(std::ostream &answer, complex &a, complex &b, int fn);
+    // Data lists in braces and data files: the brace argument of a list function.
+    void get_data(std::ostream &answer, DynArray<long double, 10> &list, int fn);
+    void get_comline_data(std::ostream &answer, DynArray<long double, 10> &list, int fn);
+    bool get_file_data(DynArray<long double, 10> &list, const char *name, int fn);
+    bool get_file_data(DynArray<std::string, 10> &list, const char *name, int fn);
+
     void check_no_right_bracket(int number, int fn);
     void check_right_bracket(int number, int fn);
     void check_no_right_brace(int number, int fn);
@@ -247,6 +253,8 @@ private:
     // Frame.
     void reset();
     void raise(const std::string &text, const char *caption, int number);
+    // Records a failure of a data file and shows it; the caller decides how to leave.
+    void report_data_file_error(const std::string &text);
     template <class... Arguments>
     static std::string format_message(const char *format, Arguments... arguments) {
         const int size = std::snprintf(nullptr, 0, format, arguments...);

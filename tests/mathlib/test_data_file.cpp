@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Quindar developers
+// The data file format: separators, labels, rows, limits and failures.
+#include "data_file.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
+namespace quindar::mathlib {
+namespace {
+
+class DataFiles : public ::testing::Test {
+protected:
+    DataFiles() {
+        char pattern[] = "/tmp/quindar-data-XXXXXX";
+        folder_ = mkdtemp(pattern);
+    }
+    ~DataFiles() override { std::filesystem::remove_all(folder_); }
+    std::string write(const std::string &name, const std::string &content) {
+        const std::string path = folder_ + "/" + name;
+        std::ofstream(path, std::ios::binary) << content;
+        return path;
+    }
+    std::string folder_;
+};
+
+TEST_F(DataFiles, EntriesAndSeparators) {
+    struct Case {
+        const char *content;
+        std::vector<std::string> entries;
+    };
+    const Case table[] = {
+        {"1, 2 3", {"1", "2", "3"}},
+        {"\r\n\n  1\t,,2\r\n3\n", {"1", "2", "3"}},
+        {"1) 10 2) 20", {"10", "20"}},
+        {"f(2) 2)", {"f(2)"}},
+        {"SQRT(16), 4", {"SQRT(16)", "4"}},
+        {"1+i", {"1+i"}},
+    };
+    for (const auto &c : table) {
+        std::vector<std::string> entries;
+        EXPECT_EQ(read_data_entries(write("d.txt", c.content), entries), DataFileStatus::Read);
+        EXPECT_EQ(entries, c.entries) << c.content;
+    }
+}
+
+TEST_F(DataFiles, FailuresAndTheirTexts) {
+    std::vector<std::string> entries;
+    const std::string missing = folder_ + "/none.txt";
+    EXPECT_EQ(read_data_entries(missing, entries), DataFileStatus::CannotOpen);
+    EXPECT_EQ(data_file_message(DataFileStatus::CannotOpen, "x.dat"),
+              "Data File ' x.dat ' Could Not Be Located!");
+    EXPECT_EQ(read_data_entries(write("e.txt", " \r\n\n"), entries), DataFileStatus::NoData);
+    EXPECT_EQ(data_file_message(DataFileStatus::NoData, "x.dat"),
+              "No Data Found In The ' x.dat ' Data File!");
+    EXPECT_EQ(data_file_message(DataFileStatus::TooMany, "x.dat"),
+              "Too Many Data Points Found In The ' x.dat ' Data File, Limit Is 32767 Points!");
+}
+
+TEST_F(DataFiles, TheLimitIs32766Entries) {
+    std::string content;
+    for (int k = 0; k < 32766; ++k) content += "1 ";
+    std::vector<std::string> entries;
+    EXPECT_EQ(read_data_entries(write("big.txt", content), entries), DataFileStatus::Read);
+    EXPECT_EQ(entries.size(), 32766u);
+    EXPECT_EQ(read_data_entries(write("big.txt", content + "1"), entries), DataFileStatus::TooMany);
+}
+
+TEST_F(DataFiles, PointRows) {
+    std::vector<PointRow> rows;
+    EXPECT_EQ(read_data_points(write("p.txt", "1 2\n\n3 4 5 6\n7"), rows), DataFileStatus::Read);
+    ASSERT_EQ(rows.size(), 3u);
+    EXPECT_EQ(rows[0].count, 2);
+    EXPECT_EQ(rows[0].coordinates[2], "");
+    EXPECT_EQ(rows[1].coordinates[2], "5");
+    EXPECT_EQ(rows[1].count, 4);
+    EXPECT_EQ(rows[2].coordinates[0], "7");
+}
+
+}  // namespace
+}  // namespace quindar::mathlib
