@@ -79,7 +79,8 @@ TEST_F(DataLists, DataFilesAreReadByASecondEngine) {
 }
 
 TEST_F(DataLists, FileNamesAreToldFromLists) {
-    const std::string path = file("c.dat", "4 5");
+    file("c.dat", "4 5");
+    const auto previous = std::filesystem::current_path();
     std::filesystem::current_path(folder_);
     EXPECT_EQ(evaluate(parser, "SRESIST[{c.dat}]"), " = 9");
     EXPECT_EQ(evaluate(parser, "SRESIST[{x.y}]"),
@@ -89,6 +90,7 @@ TEST_F(DataLists, FileNamesAreToldFromLists) {
     EXPECT_EQ(evaluate(parser, ("SRESIST[{" + folder_ + "/none}]").c_str()),
               "Data File ' " + folder_ + "/none ' Could Not Be Located!");
     EXPECT_EQ(evaluate(parser, "SRESIST[{c.dat}] + 1"), " = 10");
+    std::filesystem::current_path(previous);
 }
 
 }  // namespace
