@@ -16,16 +16,16 @@ struct HandlerRow {
 };
 
 const HandlerRow kHandlers[] = {
-    {"POW", EmbeddedCalls::call_pow},       {"CUBERT", EmbeddedCalls::call_cubert},
-    {"LOG", EmbeddedCalls::call_logarithm}, {"GCD", EmbeddedCalls::call_gcd},
-    {"LCM", EmbeddedCalls::call_lcm},       {"RTOP", EmbeddedCalls::call_rtop},
-    {"PTOR", EmbeddedCalls::call_ptor},     {"BASECON", EmbeddedCalls::call_basecon},
-    {"REAL", EmbeddedCalls::call_real},     {"IMAG", EmbeddedCalls::call_imag},
-    {"NORM", EmbeddedCalls::call_norm},     {"CMAG", EmbeddedCalls::call_mag},
-    {"CANGLE", EmbeddedCalls::call_angle},  {"PTOC", EmbeddedCalls::call_polar},
-    {"CONJ", EmbeddedCalls::call_conj},     {"AND", EmbeddedCalls::call_and},
-    {"OR", EmbeddedCalls::call_or},         {"NOT", EmbeddedCalls::call_not},
-    {"IF", EmbeddedCalls::call_if},         {"HYPOT", EmbeddedCalls::call_hypot},
+    {"POW", EmbeddedCalls::call_pow},         {"CUBERT", EmbeddedCalls::call_cubert},
+    {"LOG", EmbeddedCalls::call_logarithm},   {"GCD", EmbeddedCalls::call_gcd},
+    {"LCM", EmbeddedCalls::call_lcm},         {"RTOP", EmbeddedCalls::call_rtop},
+    {"PTOR", EmbeddedCalls::call_ptor},       {"BASECON", EmbeddedCalls::call_basecon},
+    {"REAL", EmbeddedCalls::call_real},       {"IMAG", EmbeddedCalls::call_imag},
+    {"NORM", EmbeddedCalls::call_norm},       {"CMAG", EmbeddedCalls::call_mag},
+    {"CANGLE", EmbeddedCalls::call_angle},    {"PTOC", EmbeddedCalls::call_polar},
+    {"CONJ", EmbeddedCalls::call_conj},       {"AND", EmbeddedCalls::call_and},
+    {"OR", EmbeddedCalls::call_or},           {"NOT", EmbeddedCalls::call_not},
+    {"IF", EmbeddedCalls::call_if},           {"HYPOT", EmbeddedCalls::call_hypot},
     {"SRESIST", EmbeddedCalls::call_sresist}, {"PRESIST", EmbeddedCalls::call_presist},
 };
 
@@ -39,6 +39,8 @@ EmbeddedCalls::Handler EmbeddedCalls::handler(int index) {
     return nullptr;
 }
 
-int EmbeddedCalls::index_of(const char *name) { return mathlib::function_index(name); }
+int EmbeddedCalls::index_of(const char *name) {
+    return mathlib::function_index(name);
+}
 
 }  // namespace quindar

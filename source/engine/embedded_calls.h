@@ -50,7 +50,9 @@ public:
 private:
     static int index_of(const char *name);
     static complex logical_chain(Parser &p, std::ostream &answer, const char *name, bool isAnd);
-    static void check_whole_line(Parser &p, int fn);
+    // RTOP, PTOR and BASECON must be the whole line: its start, and nothing after the call.
+    static void check_line_start(Parser &p, int fn);
+    static void check_line_end(Parser &p, int fn);
     // The brace argument of a list function, closed by its bracket.
     static bool fetch_list(Parser &p, std::ostream &answer, DynArray<long double, 10> &list,
                            int fn);

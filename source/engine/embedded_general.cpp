@@ -2,9 +2,9 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 // Handlers and workers of the general, complex and logical functions that compute in
 // floating point or through the power worker.
+#include <strings.h>
 #include <cmath>
 #include <cstring>
-#include <strings.h>
 
 #include "embedded_calls.h"
 #include "parser.h"
@@ -82,26 +82,32 @@ complex EmbeddedCalls::call_lcm(Parser &p, std::ostream &answer) {
 }
 
 // RTOP, PTOR and BASECON print an answer of their own and can only stand alone.
-void EmbeddedCalls::check_whole_line(Parser &p, int fn) {
+void EmbeddedCalls::check_line_start(Parser &p, int fn) {
     const char *name = p.get_function_name(fn);
     const char *start = p.expr_start;
     while (*start == ' ' || *start == '\t') ++start;
-    if (strncasecmp(start, name, std::strlen(name)) != 0) p.mathlib_exception(kNotInExpression, fn, nullptr);
+    if (strncasecmp(start, name, std::strlen(name)) != 0)
+        p.mathlib_exception(kNotInExpression, fn, nullptr);
+}
+
+void EmbeddedCalls::check_line_end(Parser &p, int fn) {
+    const char *rest = p.prog;
+    while (*rest == ' ' || *rest == '\t') ++rest;
+    if (*rest != '\0') p.mathlib_exception(kNotInExpression, fn, nullptr);
 }
 
 complex EmbeddedCalls::call_rtop(Parser &p, std::ostream &answer) {
     const int fn = index_of("RTOP");
-    check_whole_line(p, fn);
+    check_line_start(p, fn);
     complex x, y;
     p.get_two_real_pars(answer, x, y, fn);
     p.check_no_other_parameter(kTooMany, fn);
-    const char *rest = p.prog;
-    while (*rest == ' ' || *rest == '\t') ++rest;
-    if (*rest != '\0') p.mathlib_exception(kNotInExpression, fn, nullptr);
+    check_line_end(p, fn);
     long double r = std::sqrt(static_cast<long double>(x.real) * x.real +
                               static_cast<long double>(y.real) * y.real);
-    long double theta = (x.real == 0 && y.real == 0) ? 0.0L : std::atan2(static_cast<long double>(y.real),
-                                                                       static_cast<long double>(x.real));
+    long double theta = (x.real == 0 && y.real == 0) ? 0.0L
+                                                     : std::atan2(static_cast<long double>(y.real),
+                                                                  static_cast<long double>(x.real));
     Mathematics::round_zero(r, 1e-307L);
     Mathematics::round_zero(theta, 1e-307L);
     if (p.angle_mode == 0) theta = theta * kOneOverPi * 180;
@@ -112,13 +118,11 @@ complex EmbeddedCalls::call_rtop(Parser &p, std::ostream &answer) {
 
 complex EmbeddedCalls::call_ptor(Parser &p, std::ostream &answer) {
     const int fn = index_of("PTOR");
-    check_whole_line(p, fn);
+    check_line_start(p, fn);
     complex r, angle;
     p.get_two_real_pars(answer, r, angle, fn);
     p.check_no_other_parameter(kTooMany, fn);
-    const char *rest = p.prog;
-    while (*rest == ' ' || *rest == '\t') ++rest;
-    if (*rest != '\0') p.mathlib_exception(kNotInExpression, fn, nullptr);
+    check_line_end(p, fn);
     long double theta = angle.real;
     if (p.angle_mode == 0) theta = theta * kPi * kOneOver180;
     long double x = r.real * std::cos(theta);
@@ -132,13 +136,11 @@ complex EmbeddedCalls::call_ptor(Parser &p, std::ostream &answer) {
 
 complex EmbeddedCalls::call_basecon(Parser &p, std::ostream &answer) {
     const int fn = index_of("BASECON");
-    check_whole_line(p, fn);
+    check_line_start(p, fn);
     complex number, base;
     p.get_two_real_pars(answer, number, base, fn);
     p.check_no_other_parameter(kTooMany, fn);
-    const char *rest = p.prog;
-    while (*rest == ' ' || *rest == '\t') ++rest;
-    if (*rest != '\0') p.mathlib_exception(kNotInExpression, fn, nullptr);
+    check_line_end(p, fn);
     if (!Mathematics::is_integer(number.real) || number.real < 1) {
         p.mathlib_exception(kPositiveInteger, fn, nullptr);
         return complex{};
@@ -205,7 +207,8 @@ complex EmbeddedCalls::call_conj(Parser &p, std::ostream &answer) {
 }
 
 // Every parameter is evaluated: there is no short cut.
-complex EmbeddedCalls::logical_chain(Parser &p, std::ostream &answer, const char *name, bool isAnd) {
+complex EmbeddedCalls::logical_chain(Parser &p, std::ostream &answer, const char *name,
+                                     bool isAnd) {
     const int fn = index_of(name);
     p.check_no_right_bracket(kNoParameters, fn);
     bool result = isAnd;

@@ -10,7 +10,9 @@ namespace quindar {
 
 namespace {
 
-bool is_digit(char c) { return c >= '0' && c <= '9'; }
+bool is_digit(char c) {
+    return c >= '0' && c <= '9';
+}
 
 // An occurrence of a name counts when it stands at the start, behind a delimiter, or
 // behind a number that itself stands at the start or behind a delimiter: `2x`, `(x`,

@@ -38,18 +38,26 @@ bool Mathematics::are_equal(long double a, long double b, long double tolerance)
     return !(a < b - tolerance || a > b + tolerance);
 }
 
-long double Mathematics::sign(long double x) { return x < 0 ? -1.0L : (x > 0 ? 1.0L : 0.0L); }
+long double Mathematics::sign(long double x) {
+    return x < 0 ? -1.0L : (x > 0 ? 1.0L : 0.0L);
+}
 
-long double Mathematics::trunc(long double x) { return std::trunc(x); }
+long double Mathematics::trunc(long double x) {
+    return std::trunc(x);
+}
 
 long double Mathematics::round(long double x) {
     if (x == trunc(x)) return x;
     return x > 0 ? trunc(x + 0.5L) : trunc(x - 0.5L);
 }
 
-bool Mathematics::is_integer(long double x) { return x == round(x); }
+bool Mathematics::is_integer(long double x) {
+    return x == round(x);
+}
 
-bool Mathematics::is_even(long double x) { return is_integer(x) && Fmod(x, 2) == 0; }
+bool Mathematics::is_even(long double x) {
+    return is_integer(x) && Fmod(x, 2) == 0;
+}
 
 long double Mathematics::Fmod(long double a, long double b) {
     const long double r = std::fmod(a, b);
@@ -67,7 +75,9 @@ long double &Mathematics::round_zero(long double &x, long double eps) {
     return x;
 }
 
-bool Mathematics::is_delim(char c) { return c == '\0' || std::strchr(kDelimiters, c) != nullptr; }
+bool Mathematics::is_delim(char c) {
+    return c == '\0' || std::strchr(kDelimiters, c) != nullptr;
+}
 
 bool Mathematics::is_number(const char *text) {
     if (text == nullptr) return false;
@@ -99,7 +109,8 @@ bool Mathematics::is_number(const char *text) {
 }
 
 int Mathematics::to_int32(long double x) {
-    if (!(x > static_cast<long double>(INT_MIN) - 1.0L && x < static_cast<long double>(INT_MAX) + 1.0L))
+    if (!(x > static_cast<long double>(INT_MIN) - 1.0L &&
+          x < static_cast<long double>(INT_MAX) + 1.0L))
         return INT_MIN;
     return static_cast<int>(x);
 }
@@ -180,6 +191,8 @@ void Mathematics::InitMapmValues() {
     for (auto &value : mapm_values) m_apm_set_zero(&value);
 }
 
-void Mathematics::FreeMapmValues() { mapm_free = true; }
+void Mathematics::FreeMapmValues() {
+    mapm_free = true;
+}
 
 }  // namespace quindar

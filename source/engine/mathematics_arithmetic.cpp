@@ -22,8 +22,8 @@ constexpr int kOperandDigits = 14;
 
 void Mathematics::SetMapmValue(const long double &value, M_APM target) {
     char text[64];
-    const auto written =
-        std::to_chars(text, text + sizeof text - 1, value, std::chars_format::general, kOperandDigits);
+    const auto written = std::to_chars(text, text + sizeof text - 1, value,
+                                       std::chars_format::general, kOperandDigits);
     *written.ptr = '\0';
     m_apm_set_string(target, text);
 }

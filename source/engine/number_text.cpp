@@ -10,7 +10,8 @@ namespace quindar {
 void init_number_stream(std::ostream &stream, const PrecformType &format) {
     stream.imbue(std::locale::classic());
     std::ios_base::fmtflags flags = std::ios_base::internal | std::ios_base::dec;
-    if (format.format == kFormatScientific) flags |= std::ios_base::scientific | std::ios_base::showbase;
+    if (format.format == kFormatScientific)
+        flags |= std::ios_base::scientific | std::ios_base::showbase;
     if (format.show_decimal_point) flags |= std::ios_base::showpoint;
     if (format.show_lead_sign) flags |= std::ios_base::showpos;
     stream.flags(flags);

@@ -19,8 +19,7 @@ void init_number_stream(std::ostream &stream, const PrecformType &format);
 
 // Writes value as an answer: parts below the format's zero threshold become 0, in the
 // caller's value too. `precision` -1 means the format's own.
-void stream_answer(complex &value, std::ostream &stream, int precision,
-                   const PrecformType &format);
+void stream_answer(complex &value, std::ostream &stream, int precision, const PrecformType &format);
 
 // Writes value as short as it is, for labels and limits. `precision` -1 means the digits
 // the value needs (and rounding by the format's zero threshold); otherwise that many.

@@ -201,7 +201,8 @@ public:
     void get_one_par(std::ostream &answer, complex &a, int fn);
     void get_two_pars(std::ostream &answer, complex &a, complex &b, int fn);
     void get_three_pars(std::ostream &answer, complex &a, complex &b, complex &c, int fn);
-    void get_four_pars(std::ostream &answer, complex &a, complex &b, complex &c, complex &d, int fn);
+    void get_four_pars(std::ostream &answer, complex &a, complex &b, complex &c, complex &d,
+                       int fn);
     void get_one_real_par(std::ostream &answer, complex &a, int fn);
     void get_two_real_pars(std::ostream &answer, complex &a, complex &b, int fn);
     void get_three_real_pars(std::ostream &answer, complex &a, complex &b, complex &c, int fn);

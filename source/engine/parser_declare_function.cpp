@@ -17,17 +17,26 @@ namespace {
 std::string spelling(const std::string &token, char type) {
     if (type != kDelimiter || token.empty()) return token;
     switch (token[0]) {
-        case kLess: return "<";
-        case kLessEqual: return "<=";
-        case kGreater: return ">";
-        case kGreaterEqual: return ">=";
-        case kEqual: return "==";
-        case kNotEqual: return "!=";
-        default: return token;
+        case kLess:
+            return "<";
+        case kLessEqual:
+            return "<=";
+        case kGreater:
+            return ">";
+        case kGreaterEqual:
+            return ">=";
+        case kEqual:
+            return "==";
+        case kNotEqual:
+            return "!=";
+        default:
+            return token;
     }
 }
 
-bool is_word(char type) { return type == kName || type == kNumber; }
+bool is_word(char type) {
+    return type == kName || type == kNumber;
+}
 
 }  // namespace
 

@@ -16,9 +16,13 @@ complex Parser::call_internal_function(int index, std::ostream &answer) {
     return handler(*this, answer);
 }
 
-int Parser::internal_function(const char *name) const { return mathlib::function_index(name); }
+int Parser::internal_function(const char *name) const {
+    return mathlib::function_index(name);
+}
 
-bool Parser::is_internal_function(const char *name) const { return internal_function(name) >= 0; }
+bool Parser::is_internal_function(const char *name) const {
+    return internal_function(name) >= 0;
+}
 
 const char *Parser::get_function_name(int index) const {
     return index >= 0 && index < mathlib::kEmbeddedFunctionCount
@@ -26,9 +30,13 @@ const char *Parser::get_function_name(int index) const {
                : nullptr;
 }
 
-int Parser::constant_index(const char *name) const { return mathlib::constant_index(name); }
+int Parser::constant_index(const char *name) const {
+    return mathlib::constant_index(name);
+}
 
-bool Parser::is_constant(const char *name) const { return constant_index(name) >= 0; }
+bool Parser::is_constant(const char *name) const {
+    return constant_index(name) >= 0;
+}
 
 const char *Parser::get_constant_name(int index) const {
     return index >= 0 && index < mathlib::kConstantCount ? mathlib::kConstants[index].name : "";

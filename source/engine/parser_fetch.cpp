@@ -20,8 +20,8 @@ void Parser::mathlib_exception(int number, int functionIndex, const char *text) 
     const char *format = mathlib::mathlib_message(number);
     // Messages with two names take the caller's text first.
     const bool two = std::string(format).find("%s") != std::string(format).rfind("%s");
-    const std::string message = two ? format_message(format, text ? text : "", name)
-                                    : format_message(format, name);
+    const std::string message =
+        two ? format_message(format, text ? text : "", name) : format_message(format, name);
     raise(message, "MATH LIBRARY ERROR", -1);
 }
 
@@ -119,8 +119,7 @@ void Parser::get_two_real_pars(std::ostream &answer, complex &a, complex &b, int
     check_no_imag_compnts(kMustBeReal, fn, a, b);
 }
 
-void Parser::get_three_real_pars(std::ostream &answer, complex &a, complex &b, complex &c,
-                                 int fn) {
+void Parser::get_three_real_pars(std::ostream &answer, complex &a, complex &b, complex &c, int fn) {
     get_three_pars(answer, a, b, c, fn);
     check_no_imag_compnts(kMustBeReal, fn, a, b, c);
 }

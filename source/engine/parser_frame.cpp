@@ -25,7 +25,9 @@ Parser::Parser(const char *libraryDir, const char *userLibraryDir)
     user_lib_path = user_lib_dir + "QuindarUser.lib";
 }
 
-Parser::~Parser() { reset(); }
+Parser::~Parser() {
+    reset();
+}
 
 void Parser::set_message_hook(MessageHook hook) {
     message_hook_storage = std::move(hook);
@@ -40,8 +42,7 @@ const char *Parser::eval_exp(const char *text, bool silentMode, bool showEquals)
     return eval_exp(text, result, silentMode, showEquals);
 }
 
-const char *Parser::eval_exp(const char *text, complex &result, bool silentMode,
-                             bool showEquals) {
+const char *Parser::eval_exp(const char *text, complex &result, bool silentMode, bool showEquals) {
     m_apmc_init();
     expr = std::make_unique<char[]>(kExpressionSize);
     error_number = -1;
@@ -115,7 +116,9 @@ void Parser::reset() {
     mapping = false;
 }
 
-bool Parser::IsAnError() const { return error || Mathematics::error; }
+bool Parser::IsAnError() const {
+    return error || Mathematics::error;
+}
 
 const char *Parser::GetLastError() const {
     if (error_text) return error_text->c_str();
@@ -153,7 +156,9 @@ void Parser::InitMapmValues() {
     for (auto &value : parser_mapm_values) m_apm_set_zero(&value);
 }
 
-void Parser::FreeMapmValues() { mapm_free = true; }
+void Parser::FreeMapmValues() {
+    mapm_free = true;
+}
 
 void Parser::raise(const std::string &text, const char *caption, int number) {
     SetLastError(text.c_str(), number);

@@ -69,8 +69,12 @@ int Parser::max_func_length() {
     return static_cast<int>(longest);
 }
 
-bool Parser::is_function(const char *name) { return find_function(name) >= 0; }
-bool Parser::is_function(int index) { return function_at(index) != nullptr; }
+bool Parser::is_function(const char *name) {
+    return find_function(name) >= 0;
+}
+bool Parser::is_function(int index) {
+    return function_at(index) != nullptr;
+}
 
 bool Parser::is_func_variable(const char *shortName, const char *variable) {
     const Function *f = function_named(shortName);
@@ -176,8 +180,12 @@ int Parser::get_tot_func_value_len() {
     return total;
 }
 
-void Parser::switch_funcs(int a, int b) { functions.switcher(a, b); }
-void Parser::move_func(int from, int to) { functions.move(from, to); }
+void Parser::switch_funcs(int a, int b) {
+    functions.switcher(a, b);
+}
+void Parser::move_func(int from, int to) {
+    functions.move(from, to);
+}
 
 bool Parser::delete_function(int index) {
     funcs_saved = false;
@@ -192,10 +200,14 @@ void Parser::delete_all_funcs() {
 void Parser::replace_brackets(char *text, int mode) {
     if (text == nullptr) return;
     for (char *p = text; *p != '\0'; ++p) {
-        if (mode == 0 && *p == '[') *p = '(';
-        else if (mode == 0 && *p == ']') *p = ')';
-        else if (mode == 1 && *p == '(') *p = '[';
-        else if (mode == 1 && *p == ')') *p = ']';
+        if (mode == 0 && *p == '[')
+            *p = '(';
+        else if (mode == 0 && *p == ']')
+            *p = ')';
+        else if (mode == 1 && *p == '(')
+            *p = '[';
+        else if (mode == 1 && *p == ')')
+            *p = ']';
     }
 }
 

@@ -65,9 +65,9 @@ void Parser::eval_exp0(complex &value, std::ostream &answer) {
                         answer << "FLAG";
                         return;
                     }
-                    SetLastError(format_message(messages::kUnidentifiedAlone, saved_token.c_str())
-                                     .c_str(),
-                                 -1);
+                    SetLastError(
+                        format_message(messages::kUnidentifiedAlone, saved_token.c_str()).c_str(),
+                        -1);
                     if (!silent)
                         show_message(&message_hook_storage, *error_text, messages::kVariableCaption,
                                      MessageStyle::Question);
@@ -101,12 +101,18 @@ void Parser::eval_exp1(complex &value, std::ostream &answer) {
 
 complex Parser::compare(char code, bool &chain, const complex &left, const complex &right) {
     switch (code) {
-        case kLess: return _less(chain, left, right);
-        case kLessEqual: return _leseq(chain, left, right);
-        case kGreater: return _greater(chain, left, right);
-        case kGreaterEqual: return _greateq(chain, left, right);
-        case kEqual: return _equal(chain, left, right);
-        default: return _nequal(chain, left, right);
+        case kLess:
+            return _less(chain, left, right);
+        case kLessEqual:
+            return _leseq(chain, left, right);
+        case kGreater:
+            return _greater(chain, left, right);
+        case kGreaterEqual:
+            return _greateq(chain, left, right);
+        case kEqual:
+            return _equal(chain, left, right);
+        default:
+            return _nequal(chain, left, right);
     }
 }
 
@@ -231,7 +237,8 @@ void Parser::atom_name(complex &value, std::ostream &answer) {
     } else {
         if (!is_variable(token.c_str()))
             special_exception(messages::kNotVariableOrConstant, token.c_str());
-        if (is_var_locked(token.c_str())) special_exception(messages::kVariableLocked, token.c_str());
+        if (is_var_locked(token.c_str()))
+            special_exception(messages::kVariableLocked, token.c_str());
         if (!var_assigned(token.c_str())) special_exception(messages::kNoValueFound, token.c_str());
         value = get_var_value(token.c_str());
     }
@@ -296,15 +303,16 @@ void Parser::get_scientific_value(long double &value) {
     *written.ptr = '\0';
     // Far beyond any literal bound: keep the sum of exponents from overflowing.
     constexpr long kExponentLimit = 100000;
-    long exponent = exponent_value > kExponentLimit ? kExponentLimit
-                                                    : static_cast<long>(exponent_value);
+    long exponent =
+        exponent_value > kExponentLimit ? kExponentLimit : static_cast<long>(exponent_value);
     if (negative) exponent = -exponent;
     if (char *own = std::strchr(text, 'e')) {
         exponent += std::strtol(own + 1, nullptr, 10);
         *own = '\0';
     }
     const std::size_t length = std::strlen(text);
-    std::snprintf(text + length, sizeof text - length, "E%s%ld", exponent >= 0 ? "+" : "", exponent);
+    std::snprintf(text + length, sizeof text - length, "E%s%ld", exponent >= 0 ? "+" : "",
+                  exponent);
     value = _atold(text);
 }
 

@@ -39,7 +39,8 @@ inline constexpr const char *kUnidentifiedAlone =
 inline constexpr const char *kNotVariableOrConstant =
     "' %s ' can not be identified as a variable or a constant!";
 inline constexpr const char *kNoValueYet = "' %s ' does not have a value yet";
-inline constexpr const char *kConstantAssigned = "Internal constant '%s' can not be assigned a value";
+inline constexpr const char *kConstantAssigned =
+    "Internal constant '%s' can not be assigned a value";
 inline constexpr const char *kMissingFunctionBracket =
     "The '%s' is missing a right function bracket ] or parenthesis!";
 inline constexpr const char *kFunctionRedefined = "The '%s' function can not be redefined!";
@@ -58,7 +59,8 @@ inline constexpr const char *kNotAFunctionOf =
 inline constexpr const char *kFunctionOfItself = "Function ' %s ' can not be a function of itself!";
 inline constexpr const char *kLibraryBracketExpected =
     "Bracket of type ' [ ' expected for call to function ' %s ' !";
-inline constexpr const char *kNotDefinedAsFunction = "' %s ' is not currently defined as a function!";
+inline constexpr const char *kNotDefinedAsFunction =
+    "' %s ' is not currently defined as a function!";
 inline constexpr const char *kVariableNotDefined = "Variable ' %s ' Has Not Yet Been Defined!";
 inline constexpr const char *kEvaluatedOnItself = "Function \"%s\" Can Not Be Evaluated On Itself!";
 inline constexpr const char *kArgumentCountOne =

@@ -6,6 +6,8 @@
 
 namespace quindar {
 
-bool Parser::is_library_function(const char *) { return false; }
+bool Parser::is_library_function(const char *) {
+    return false;
+}
 
 }  // namespace quindar

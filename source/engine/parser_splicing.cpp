@@ -25,8 +25,7 @@ void Parser::insert_brackets(char *text, int mode) {
         if (token_type != kName) continue;
         char *const behind = prog;
         if (*behind != opening) continue;
-        bool call = find_function(token.c_str()) >= 0 ||
-                    is_internal_function(token.c_str()) ||
+        bool call = find_function(token.c_str()) >= 0 || is_internal_function(token.c_str()) ||
                     is_library_function(token.c_str());
         if (!call && mode == 1) call = is_function_declaration();
         prog = behind;
@@ -54,7 +53,8 @@ void Parser::insert_functions() {
         if (token_type != kName) continue;
         const int index = find_function(token.c_str());
         if (index < 0) continue;
-        if (++splices > kMaxSplices) special_exception(messages::kExpansionWithoutEnd, token.c_str());
+        if (++splices > kMaxSplices)
+            special_exception(messages::kExpansionWithoutEnd, token.c_str());
         reset_func_modvalue(index);
         eval_function(index);
     }
@@ -104,7 +104,8 @@ void Parser::eval_function(int index) {
         break;
     }
     const int used = static_cast<int>(arguments.size());
-    if (used != function->num_vars) raise_argument_count(function->full_name, function->num_vars, used);
+    if (used != function->num_vars)
+        raise_argument_count(function->full_name, function->num_vars, used);
     function->SubstituteArguments(arguments);
     check_balanced_parens(function->mod_value.c_str());
     const std::string body = function->mod_value;

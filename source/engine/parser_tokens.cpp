@@ -18,9 +18,15 @@ constexpr const char *kNotLegitimate = ";#$@&?~`'\"|";
 bool is_blank(char c) {
     return c == ' ' || c == '\t' || c == '\n' || c == '\v' || c == '\f' || c == '\r';
 }
-bool is_delimiter(char c) { return c != '\0' && std::strchr(kDelimiters, c) != nullptr; }
-bool is_letter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
-bool is_digit(char c) { return c >= '0' && c <= '9'; }
+bool is_delimiter(char c) {
+    return c != '\0' && std::strchr(kDelimiters, c) != nullptr;
+}
+bool is_letter(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+}
+bool is_digit(char c) {
+    return c >= '0' && c <= '9';
+}
 
 }  // namespace
 
@@ -32,7 +38,9 @@ bool Parser::token_is_relational() const {
     return token_type == kDelimiter && !token.empty() && token[0] >= kLess && token[0] <= kNotEqual;
 }
 
-bool Parser::token_is_i() const { return token_type == kNumber && token == "i"; }
+bool Parser::token_is_i() const {
+    return token_type == kNumber && token == "i";
+}
 
 const char *Parser::get_token() {
     token_type = kDelimiter;

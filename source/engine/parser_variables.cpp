@@ -44,8 +44,12 @@ int Parser::max_var_length() {
     return static_cast<int>(longest);
 }
 
-bool Parser::is_variable(const char *name) { return find_variable(name) >= 0; }
-bool Parser::is_variable(int index) { return variable_at(index) != nullptr; }
+bool Parser::is_variable(const char *name) {
+    return find_variable(name) >= 0;
+}
+bool Parser::is_variable(int index) {
+    return variable_at(index) != nullptr;
+}
 
 bool Parser::var_assigned(const char *name) {
     const Variable *v = variable_named(name);
@@ -192,8 +196,12 @@ std::string Parser::get_var_dec_value(const char *text) {
     return result;
 }
 
-void Parser::switch_vars(int a, int b) { variables.switcher(a, b); }
-void Parser::move_var(int from, int to) { variables.move(from, to); }
+void Parser::switch_vars(int a, int b) {
+    variables.switcher(a, b);
+}
+void Parser::move_var(int from, int to) {
+    variables.move(from, to);
+}
 
 bool Parser::delete_variable(int index) {
     vars_saved = false;
@@ -224,8 +232,7 @@ void Parser::declare_variable(complex &value, std::ostream &answer, const char *
         set_var_lowlimit(value, variable_name.c_str());
         get_token();
         eval_exp1(value, answer);
-        if (!token_is(','))
-            special_exception(messages::kCommaExpected, variable_name.c_str());
+        if (!token_is(',')) special_exception(messages::kCommaExpected, variable_name.c_str());
         set_var_hilimit(value, variable_name.c_str());
         if (get_var_lowlimit(variable_name.c_str()) == get_var_hilimit(variable_name.c_str()))
             special_exception(messages::kEqualLimits, variable_name.c_str());

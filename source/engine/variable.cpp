@@ -13,13 +13,18 @@ namespace quindar {
 
 namespace {
 
-double magnitude(complex z) { return std::abs(std::complex<double>(z.real, z.imag)); }
+double magnitude(complex z) {
+    return std::abs(std::complex<double>(z.real, z.imag));
+}
 
-complex difference(complex a, complex b) { return complex{a.real - b.real, a.imag - b.imag}; }
+complex difference(complex a, complex b) {
+    return complex{a.real - b.real, a.imag - b.imag};
+}
 
 }  // namespace
 
-Variable::Variable(const char *varName, complex initial, bool isAssigned) : name(varName ? varName : "") {
+Variable::Variable(const char *varName, complex initial, bool isAssigned)
+    : name(varName ? varName : "") {
     // The limits start at 0: the setters compare with the limit they replace.
     SetVarLowLimit(complex{});
     SetVarHiLimit(complex{});
@@ -90,7 +95,9 @@ void Variable::ResetIncrement() {
     if (incremented) value = low_limit;
 }
 
-void Variable::SetVarNumPoints(long points) { SetVarNumIncrmnts(points > 1 ? points - 1 : 0); }
+void Variable::SetVarNumPoints(long points) {
+    SetVarNumIncrmnts(points > 1 ? points - 1 : 0);
+}
 
 bool Variable::SetVarNumIncrmnts(long increments) {
     if (increments < 1) {

@@ -29,8 +29,7 @@ public:
     bool SetVarLowLimit(complex limit);
 
     // Texts: "?" when unassigned; the value; with the range as the flags ask.
-    void GetVarValueStr(std::ostream &stream, int precision,
-                        bool showIncrement);
+    void GetVarValueStr(std::ostream &stream, int precision, bool showIncrement);
     void GetVarDefStr(std::ostream &stream, int precision, bool showIncrement);
     void GetVarIncValueStr(std::ostream &stream, int precision);
     const char *GetVarValueStr(int precision, bool showIncrement);

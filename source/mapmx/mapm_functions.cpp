@@ -45,7 +45,8 @@ void from_binary(M_APM result, int places, mpfr_srcptr value) {
         return;
     }
     if (!mpfr_number_p(value)) {
-        m_apm_set_string(result, mpfr_nan_p(value) ? "nan" : (mpfr_sgn(value) < 0 ? "-inf" : "inf"));
+        m_apm_set_string(result,
+                         mpfr_nan_p(value) ? "nan" : (mpfr_sgn(value) < 0 ? "-inf" : "inf"));
         return;
     }
     mpfr_exp_t exponent = 0;

@@ -9,7 +9,9 @@ namespace quindar::mathlib {
 
 namespace {
 
-bool is_separator(char c) { return c == ' ' || c == ',' || c == '\t' || c == '\r' || c == '\n'; }
+bool is_separator(char c) {
+    return c == ' ' || c == ',' || c == '\t' || c == '\r' || c == '\n';
+}
 
 // `12)` is a label: it holds a closing parenthesis, no opening one, and ends in it.
 bool is_label(const std::string &entry) {
@@ -21,7 +23,8 @@ template <class OnEntry, class OnRowEnd>
 DataFileStatus scan(const std::string &path, OnEntry on_entry, OnRowEnd on_row_end) {
     std::ifstream file(path, std::ios::binary);
     if (!file) return DataFileStatus::CannotOpen;
-    const std::string text((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
+    const std::string text((std::istreambuf_iterator<char>(file)),
+                           std::istreambuf_iterator<char>());
     std::size_t i = 0;
     while (i < text.size() && (text[i] == ' ' || text[i] == '\r' || text[i] == '\n')) ++i;
     if (i == text.size()) return DataFileStatus::NoData;
@@ -52,7 +55,8 @@ DataFileStatus scan(const std::string &path, OnEntry on_entry, OnRowEnd on_row_e
 
 DataFileStatus read_data_entries(const std::string &path, std::vector<std::string> &entries) {
     entries.clear();
-    return scan(path, [&](const std::string &entry) { entries.push_back(entry); }, [] {});
+    return scan(
+        path, [&](const std::string &entry) { entries.push_back(entry); }, [] {});
 }
 
 DataFileStatus read_data_points(const std::string &path, std::vector<PointRow> &rows) {
@@ -71,12 +75,15 @@ DataFileStatus read_data_points(const std::string &path, std::vector<PointRow> &
 
 std::string data_file_message(DataFileStatus status, const std::string &path) {
     switch (status) {
-        case DataFileStatus::CannotOpen: return "Data File ' " + path + " ' Could Not Be Located!";
-        case DataFileStatus::NoData: return "No Data Found In The ' " + path + " ' Data File!";
+        case DataFileStatus::CannotOpen:
+            return "Data File ' " + path + " ' Could Not Be Located!";
+        case DataFileStatus::NoData:
+            return "No Data Found In The ' " + path + " ' Data File!";
         case DataFileStatus::TooMany:
             return "Too Many Data Points Found In The ' " + path +
                    " ' Data File, Limit Is 32767 Points!";
-        case DataFileStatus::Read: break;
+        case DataFileStatus::Read:
+            break;
     }
     return {};
 }

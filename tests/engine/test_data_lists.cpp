@@ -39,13 +39,18 @@ TEST_F(DataLists, ListsOfExpressions) {
         {"SRESIST[{x, x*2, POW[2,2]}]", " = 13"},
         {"2*SRESIST[{1,2}]", " = 6"},
         {"SRESIST[{5}]", "Two or more data points are expected in list for SRESIST function call!"},
-        {"SRESIST[{1.5}]", "Two or more data points are expected in list for SRESIST function call!"},
-        {"SRESIST[{}]", "Brace/s of type { or } missing for data list or data file in SRESIST function call!"},
-        {"SRESIST[1,2]", "Brace/s of type { or } missing for data list or data file in SRESIST function call!"},
+        {"SRESIST[{1.5}]",
+         "Two or more data points are expected in list for SRESIST function call!"},
+        {"SRESIST[{}]",
+         "Brace/s of type { or } missing for data list or data file in SRESIST function call!"},
+        {"SRESIST[1,2]",
+         "Brace/s of type { or } missing for data list or data file in SRESIST function call!"},
         {"SRESIST[{1,2+i}]", "A data point in the SRESIST function call in not a real number!"},
         {"SRESIST[{1,,2}]", "Comma is out of place in SRESIST function call!"},
-        {"SRESIST[{1,2}x]", "Bracket of type [ or ] out of place or missing in SRESIST function call!"},
-        {"SRESIST[{1,2}, 3]", "SRESIST function call is incomplete, may require a closing bracket!"},
+        {"SRESIST[{1,2}x]",
+         "Bracket of type [ or ] out of place or missing in SRESIST function call!"},
+        {"SRESIST[{1,2}, 3]",
+         "SRESIST function call is incomplete, may require a closing bracket!"},
         {"PRESIST[{2,2}]", " = 1"},
         {"PRESIST[{3,6}]", " = 2"},
         {"PRESIST[{2,0}]", "Division By Zero Encountered!"},
@@ -62,10 +67,14 @@ TEST_F(DataLists, DataFilesAreReadByASecondEngine) {
         {"1, 2 3", " = 6"},
         {"1) 10 2) 20", " = 30"},
         {"CUBERT(27), 4", " = 7"},
-        {"POW(2,3)", "The Following Error Occured While Loading Data Point 0 In File %s : Unbalanced function brackets in expression!"},  // a comma separates entries
+        {"POW(2,3)",
+         "The Following Error Occured While Loading Data Point 0 In File %s : Unbalanced function "
+         "brackets in expression!"},  // a comma separates entries
         {"PI PI", " = 6.2831853071796"},
         {"1+i", "An Imaginary Number Was Found In Data Point 0 In File %s"},
-        {"1 y", "The Following Error Occured While Loading Data Point 1 In File %s : ' y ' Could Not Be Identified As A Variable Or Function."},
+        {"1 y",
+         "The Following Error Occured While Loading Data Point 1 In File %s : ' y ' Could Not Be "
+         "Identified As A Variable Or Function."},
         {" \r\n", "No Data Found In The ' %s ' Data File!"},
     };
     parser.eval_exp("y = 2", true, true);
@@ -73,7 +82,8 @@ TEST_F(DataLists, DataFilesAreReadByASecondEngine) {
     for (const auto &c : table) {
         const std::string path = file("data" + std::to_string(n++) + ".txt", c.content);
         std::string expected = c.expected;
-        if (const auto at = expected.find("%s"); at != std::string::npos) expected.replace(at, 2, path);
+        if (const auto at = expected.find("%s"); at != std::string::npos)
+            expected.replace(at, 2, path);
         EXPECT_EQ(evaluate(parser, ("SRESIST[{" + path + "}]").c_str()), expected) << c.content;
     }
 }
@@ -83,8 +93,7 @@ TEST_F(DataLists, FileNamesAreToldFromLists) {
     const auto previous = std::filesystem::current_path();
     std::filesystem::current_path(folder_);
     EXPECT_EQ(evaluate(parser, "SRESIST[{c.dat}]"), " = 9");
-    EXPECT_EQ(evaluate(parser, "SRESIST[{x.y}]"),
-              "Data File ' x.y ' Could Not Be Located!");
+    EXPECT_EQ(evaluate(parser, "SRESIST[{x.y}]"), "Data File ' x.y ' Could Not Be Located!");
     EXPECT_EQ(evaluate(parser, "SRESIST[{C:\\dir\\noext}]"),
               "Data File ' C:\\dir\\noext ' Could Not Be Located!");
     EXPECT_EQ(evaluate(parser, ("SRESIST[{" + folder_ + "/none}]").c_str()),

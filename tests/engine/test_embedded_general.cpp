@@ -26,8 +26,12 @@ TEST(EmbeddedCalls, NamesBracketsAndConstants) {
         {"PLANK", " = 0"},  // below the zero threshold of the answer format
         {"PI = 3", "Internal constant 'PI' can not be assigned a value"},
         {"sin = 5", ""},
-        {"f[PI] = 2", "The variable ' PI ' is currently defined as an internal constant, please use another variable name in your function definition!"},
-        {"f[pow] = 2", "The variable ' pow ' is currently defined as an internal function, please use another variable name in your function definition!"},
+        {"f[PI] = 2",
+         "The variable ' PI ' is currently defined as an internal constant, please use another "
+         "variable name in your function definition!"},
+        {"f[pow] = 2",
+         "The variable ' pow ' is currently defined as an internal function, please use another "
+         "variable name in your function definition!"},
         {"x = 1", ""},
         {"POW[x,2] = 2", "Syntax error!"},  // a call, then an = left over
     };
@@ -90,8 +94,10 @@ TEST(EmbeddedCalls, WholeLineFunctions) {
         {"PTOR[2,0]", " = (2, 0)"},
         {"BASECON[255,16]", " = FF"},
         {"BASECON[5,2]", " = 101"},
-        {"BASECON[0,2]", "The number to be converted must be a positive integer in BASECON function call!"},
-        {"BASECON[5,17]", "The base value must be an integer between 2 and 16 in BASECON function call!"},
+        {"BASECON[0,2]",
+         "The number to be converted must be a positive integer in BASECON function call!"},
+        {"BASECON[5,17]",
+         "The base value must be an integer between 2 and 16 in BASECON function call!"},
     };
     check_lines(table);
 }

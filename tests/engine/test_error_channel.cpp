@@ -19,11 +19,11 @@ struct Box {
 class RecordingParser : public ::testing::Test {
 protected:
     RecordingParser() {
-        parser.set_message_hook([this](std::string_view text, std::string_view caption,
-                                       MessageStyle style) {
-            boxes.push_back({std::string(text), std::string(caption), style});
-            return true;
-        });
+        parser.set_message_hook(
+            [this](std::string_view text, std::string_view caption, MessageStyle style) {
+                boxes.push_back({std::string(text), std::string(caption), style});
+                return true;
+            });
     }
     Parser parser{"", ""};
     std::vector<Box> boxes;

@@ -46,10 +46,18 @@ TEST(Literals, NumbersPointsAndScientificForms) {
 
 TEST(Literals, ImaginaryUnit) {
     const LineCase table[] = {
-        {"i", " = i"},       {"3i", " = 3i"},   {"3 i", " = 3i"},   {"i3", " = 3i"},
-        {"i*3", " = 3i"},    {"-i", " = -i"},   {"2i3", "Syntax error!"},
-        {"i = 2", "The character ' i ' is reserved for complex numbers, it can not be assigned a value!"},
-        {"1-i", " = 1-i"},   {"2+i", " = 2+i"}, {"(1+i)i", " = -1+i"},
+        {"i", " = i"},
+        {"3i", " = 3i"},
+        {"3 i", " = 3i"},
+        {"i3", " = 3i"},
+        {"i*3", " = 3i"},
+        {"-i", " = -i"},
+        {"2i3", "Syntax error!"},
+        {"i = 2",
+         "The character ' i ' is reserved for complex numbers, it can not be assigned a value!"},
+        {"1-i", " = 1-i"},
+        {"2+i", " = 2+i"},
+        {"(1+i)i", " = -1+i"},
     };
     check_lines(table);
 }
@@ -90,11 +98,19 @@ TEST(Operators, EachOperatorThroughDecimalArithmetic) {
 
 TEST(Operators, PrecedenceAndAssociativity) {
     const LineCase table[] = {
-        {"2+3*4", " = 14"},      {"(2+3)*4", " = 20"},  {"10-4-3", " = 3"},
-        {"64/4/2", " = 8"},      {"-2^2", " = 4"},      {"2*-3", " = -6"},
-        {"2^3^2", "Syntax error!"}, {"2^(3^2)", " = 512"}, {"--2", "Syntax error!"},
+        {"2+3*4", " = 14"},
+        {"(2+3)*4", " = 20"},
+        {"10-4-3", " = 3"},
+        {"64/4/2", " = 8"},
+        {"-2^2", " = 4"},
+        {"2*-3", " = -6"},
+        {"2^3^2", "Syntax error!"},
+        {"2^(3^2)", " = 512"},
+        {"--2", "Syntax error!"},
         {"-3!", "Factorial argument must be an integer greater than Or equal to zero!"},
-        {"3!!", "Syntax error!"}, {"+5", " = 5"},       {"2*3^2", " = 18"},
+        {"3!!", "Syntax error!"},
+        {"+5", " = 5"},
+        {"2*3^2", " = 18"},
         {"-(2+3)", " = -5"},
     };
     check_lines(table);
@@ -102,21 +118,33 @@ TEST(Operators, PrecedenceAndAssociativity) {
 
 TEST(Operators, ImplicitMultiplication) {
     const LineCase table[] = {
-        {"2(3)", " = 6"},      {"(2)3", " = 6"},        {"(2)(3)", " = 6"},
-        {"5!(2)", " = 240"},   {"5!2", "Syntax error!"}, {"2 3", "Syntax error!"},
-        {"(2)(3)(4)", " = 24"}, {"2(3)(4)", " = 24"},   {"(1+i)(1-i)", " = 2"},
+        {"2(3)", " = 6"},       {"(2)3", " = 6"},         {"(2)(3)", " = 6"},
+        {"5!(2)", " = 240"},    {"5!2", "Syntax error!"}, {"2 3", "Syntax error!"},
+        {"(2)(3)(4)", " = 24"}, {"2(3)(4)", " = 24"},     {"(1+i)(1-i)", " = 2"},
     };
     check_lines(table);
 }
 
 TEST(Operators, ComparisonChains) {
     const LineCase table[] = {
-        {"1 < 2", " = 1"},     {"2 < 1", " = 0"},       {"1 < 2 < 3", " = 1"},
-        {"1 < 3 < 2", " = 0"}, {"2 <= 2", " = 1"},      {"3 >= 4", " = 0"},
-        {"3 > 2", " = 1"},     {"3!=6", " = 1"},        {"3 == 3", " = 1"},
-        {"1 == 1.000000000000001", " = 1"}, {"1 == 1.00000000000001", " = 1"},             {"1 == 1.0000000000001", " = 0"},
-        {"1+2i > 2+i", " = 0"}, {"1+2i < 2+i", " = 0"}, {"2+i > 1", " = 1"},
-        {"(1 < 2) + 1", " = 2"}, {"3 > 2 > 1 > 0", " = 1"}, {"1 < = 2", "Syntax error!"},
+        {"1 < 2", " = 1"},
+        {"2 < 1", " = 0"},
+        {"1 < 2 < 3", " = 1"},
+        {"1 < 3 < 2", " = 0"},
+        {"2 <= 2", " = 1"},
+        {"3 >= 4", " = 0"},
+        {"3 > 2", " = 1"},
+        {"3!=6", " = 1"},
+        {"3 == 3", " = 1"},
+        {"1 == 1.000000000000001", " = 1"},
+        {"1 == 1.00000000000001", " = 1"},
+        {"1 == 1.0000000000001", " = 0"},
+        {"1+2i > 2+i", " = 0"},
+        {"1+2i < 2+i", " = 0"},
+        {"2+i > 1", " = 1"},
+        {"(1 < 2) + 1", " = 2"},
+        {"3 > 2 > 1 > 0", " = 1"},
+        {"1 < = 2", "Syntax error!"},
         {"1 < 0 < 1/0", "Division By Zero Encountered!"},
     };
     check_lines(table);
@@ -143,10 +171,18 @@ TEST(Errors, EveryRaisedMessageOfTheGrammar) {
         {"2 # 3", "' # ' is not a legitimate mathematical character!"},
         {"2_3", "' _ ' is not a legitimate mathematical character!"},
         {"\x01", "' \x01 ' is not a legitimate mathematical character!"},
-        {"1, 2", "A comma ' , ' can only be used to separate function parameters or define an incremental variable!"},
-        {"x = 1, 2", "A comma ' , ' can only be used to separate function parameters or define an incremental variable!"},
-        {"x = a, b, 5", "A comma ' , ' can only be used to separate function parameters or define an incremental variable!"},
-        {"x = -1, -10, 5", "A comma ' , ' can only be used to separate function parameters or define an incremental variable!"},
+        {"1, 2",
+         "A comma ' , ' can only be used to separate function parameters or define an incremental "
+         "variable!"},
+        {"x = 1, 2",
+         "A comma ' , ' can only be used to separate function parameters or define an incremental "
+         "variable!"},
+        {"x = a, b, 5",
+         "A comma ' , ' can only be used to separate function parameters or define an incremental "
+         "variable!"},
+        {"x = -1, -10, 5",
+         "A comma ' , ' can only be used to separate function parameters or define an incremental "
+         "variable!"},
         {"x", "' x ' Could Not Be Identified As A Variable Or Function."},
         {"x y", "' x ' can not be identified as a variable or a constant!"},
         {"x + 1", "' x ' can not be identified as a variable or a constant!"},
@@ -175,7 +211,8 @@ TEST(Errors, OverlongLineIsRefusedWholeWithBufferMessage) {
     line[0] = '1';
     EXPECT_EQ(evaluate(parser, line.c_str()), " = 1");
     line.push_back(' ');
-    EXPECT_EQ(evaluate(parser, line.c_str()), "Not enough memory available in buffer to process expression!");
+    EXPECT_EQ(evaluate(parser, line.c_str()),
+              "Not enough memory available in buffer to process expression!");
 }
 
 }  // namespace

@@ -19,8 +19,8 @@ using testing::LineCase;
 TEST(FunctionLines, DeclareAndCallWithBothBrackets) {
     const LineCase table[] = {
         {"f[x] = x^2", ""},
-        {"f[1+2]", " = 9"},        // the argument stands in parentheses
-        {"2f[3]", " = 18"},        // and so does the body
+        {"f[1+2]", " = 9"},  // the argument stands in parentheses
+        {"2f[3]", " = 18"},  // and so does the body
         {"f(3)", " = 9"},
         {"f (3)",  // a blank keeps the parenthesis from becoming a call bracket
          "Function ' f[x] ' requires ' 1 ' dependent variables, ' 0 ' were used! Commas may only "
@@ -31,9 +31,9 @@ TEST(FunctionLines, DeclareAndCallWithBothBrackets) {
         {"g(f(2), 1)", " = 5"},
         {"h[a] = g[a, a] - f[a]", ""},
         {"h[4]", " = 1"},
-        {"F[x] = 2x", ""},          // a second function: names are exact
+        {"F[x] = 2x", ""},  // a second function: names are exact
         {"F[3] + f[3]", " = 15"},
-        {"f[x] = x^3", ""},         // redefinition in place
+        {"f[x] = x^3", ""},  // redefinition in place
         {"f[2]", " = 8"},
         {"k[x] = x < 3", ""},
         {"k[2]", " = 1"},

@@ -41,20 +41,20 @@ bool is_known_message(const std::string &text) {
     for (int n = 0; n < 6; ++n)
         if (text == Mathematics::math_message(n)) return true;
     const char *formats[] = {
-        messages::kNotLegitimate,        messages::kCommaMisused,
-        messages::kParameterIsFunction,  messages::kParameterIsConstant,
-        messages::kFunctionNameTaken,    messages::kEmbeddedRedefined,
-        messages::kLibraryRedefined,     messages::kUnidentifiedAlone,
+        messages::kNotLegitimate,         messages::kCommaMisused,
+        messages::kParameterIsFunction,   messages::kParameterIsConstant,
+        messages::kFunctionNameTaken,     messages::kEmbeddedRedefined,
+        messages::kLibraryRedefined,      messages::kUnidentifiedAlone,
         messages::kNotVariableOrConstant, messages::kNoValueYet,
-        messages::kConstantAssigned,     messages::kMissingFunctionBracket,
-        messages::kFunctionRedefined,    messages::kNotAFunction,
-        messages::kVariableLocked,       messages::kNoValueFound,
-        messages::kTooManyDigits,        messages::kCommaExpected,
-        messages::kEqualLimits,          messages::kPointsNotInteger,
-        messages::kNotAFunctionOf,       messages::kFunctionOfItself,
-        messages::kNotDefinedAsFunction, messages::kVariableNotDefined,
-        messages::kEvaluatedOnItself,    messages::kArgumentCountOne,
-        messages::kArgumentCountMany,    messages::kExpansionWithoutEnd,
+        messages::kConstantAssigned,      messages::kMissingFunctionBracket,
+        messages::kFunctionRedefined,     messages::kNotAFunction,
+        messages::kVariableLocked,        messages::kNoValueFound,
+        messages::kTooManyDigits,         messages::kCommaExpected,
+        messages::kEqualLimits,           messages::kPointsNotInteger,
+        messages::kNotAFunctionOf,        messages::kFunctionOfItself,
+        messages::kNotDefinedAsFunction,  messages::kVariableNotDefined,
+        messages::kEvaluatedOnItself,     messages::kArgumentCountOne,
+        messages::kArgumentCountMany,     messages::kExpansionWithoutEnd,
     };
     for (const char *format : formats)
         if (matches_format(text, format)) return true;
@@ -68,7 +68,8 @@ void evaluate_and_check(Parser &parser, const std::string &line) {
     ASSERT_NE(answer, nullptr);
     if (parser.IsAnError()) {
         ASSERT_NE(parser.GetLastError(), nullptr) << line;
-        EXPECT_TRUE(is_known_message(parser.GetLastError())) << line << " -> " << parser.GetLastError();
+        EXPECT_TRUE(is_known_message(parser.GetLastError()))
+            << line << " -> " << parser.GetLastError();
         EXPECT_STREQ(answer, "");
     } else {
         // An answer, or nothing for a plain declaration.
@@ -81,16 +82,38 @@ TEST(Fuzz, RandomBytes) {
     Parser parser("", "");
     for (int n = 0; n < 20000; ++n) {
         std::string line(std::uniform_int_distribution<int>(0, 40)(engine), ' ');
-        for (char &c : line) c = static_cast<char>(std::uniform_int_distribution<int>(1, 255)(engine));
+        for (char &c : line)
+            c = static_cast<char>(std::uniform_int_distribution<int>(1, 255)(engine));
         evaluate_and_check(parser, line);
     }
 }
 
 TEST(Fuzz, TokenSoups) {
     const std::vector<std::string> pieces = {
-        "1", "0", "2.5", ".5", "5.", "1e+3", "1e-3", "e", "E", "i", "3i", "x", "(", ")", "[", "]",
-        "{", "}", "+", "-", "*", "/", "%", "^", "!", "<", "<=", ">", ">=", "==", "!=", "=", ",",
-        " ", "\t", "1.2.3", "1e+400", "sin", "PI", "POW[", "AND[", "RTOP[", "LOG[", "IF[", "e", "99999999999999999999", "0.000000001", "_",
+        "1",           "0",
+        "2.5",         ".5",
+        "5.",          "1e+3",
+        "1e-3",        "e",
+        "E",           "i",
+        "3i",          "x",
+        "(",           ")",
+        "[",           "]",
+        "{",           "}",
+        "+",           "-",
+        "*",           "/",
+        "%",           "^",
+        "!",           "<",
+        "<=",          ">",
+        ">=",          "==",
+        "!=",          "=",
+        ",",           " ",
+        "\t",          "1.2.3",
+        "1e+400",      "sin",
+        "PI",          "POW[",
+        "AND[",        "RTOP[",
+        "LOG[",        "IF[",
+        "e",           "99999999999999999999",
+        "0.000000001", "_",
     };
     std::mt19937 engine(2);
     Parser parser("", "");
@@ -98,7 +121,8 @@ TEST(Fuzz, TokenSoups) {
         std::string line;
         const int count = std::uniform_int_distribution<int>(1, 12)(engine);
         for (int k = 0; k < count; ++k)
-            line += pieces[std::uniform_int_distribution<std::size_t>(0, pieces.size() - 1)(engine)];
+            line +=
+                pieces[std::uniform_int_distribution<std::size_t>(0, pieces.size() - 1)(engine)];
         evaluate_and_check(parser, line);
     }
 }

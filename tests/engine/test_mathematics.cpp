@@ -49,8 +49,8 @@ TEST(Helpers, PlainNumberTexts) {
         const char *text;
         bool number;
     } table[] = {
-        {"12", true},  {"-1.5", true},  {"2i", true},   {"1-2i", true},  {" +3 ", true},
-        {"3+4i", true}, {"1-2", false}, {"x", false},   {"i2", false},   {"1e5", false},
+        {"12", true},   {"-1.5", true}, {"2i", true},   {"1-2i", true}, {" +3 ", true},
+        {"3+4i", true}, {"1-2", false}, {"x", false},   {"i2", false},  {"1e5", false},
         {"2*3", false}, {"(2)", false}, {"--5", false}, {"5 i", true},
     };
     for (const auto &c : table) EXPECT_EQ(Mathematics::is_number(c.text), c.number) << c.text;

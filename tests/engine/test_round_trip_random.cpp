@@ -90,10 +90,10 @@ TEST(RoundTripRandom, ComplexProductsAndQuotientsMatchExactArithmetic) {
                            bi = ExactDecimal::parse(operand_text(b.imag));
         const complex product = math.complex_mult(a, b);
         ASSERT_EQ(product.real, read_back(ExactDecimal::subtract(ExactDecimal::multiply(ar, br),
-                                                                  ExactDecimal::multiply(ai, bi))
+                                                                 ExactDecimal::multiply(ai, bi))
                                               .to_scientific(14)));
         ASSERT_EQ(product.imag, read_back(ExactDecimal::add(ExactDecimal::multiply(ai, br),
-                                                             ExactDecimal::multiply(ar, bi))
+                                                            ExactDecimal::multiply(ar, bi))
                                               .to_scientific(14)));
         const ExactDecimal denominator =
             ExactDecimal::add(ExactDecimal::multiply(br, br), ExactDecimal::multiply(bi, bi));
@@ -101,8 +101,8 @@ TEST(RoundTripRandom, ComplexProductsAndQuotientsMatchExactArithmetic) {
         const complex quotient = math.complex_div(a, b);
         const ExactDecimal real_part =
             ExactDecimal::add(ExactDecimal::multiply(ar, br), ExactDecimal::multiply(ai, bi));
-        const ExactDecimal imag_part = ExactDecimal::subtract(ExactDecimal::multiply(br, ai),
-                                                              ExactDecimal::multiply(bi, ar));
+        const ExactDecimal imag_part =
+            ExactDecimal::subtract(ExactDecimal::multiply(br, ai), ExactDecimal::multiply(bi, ar));
         ASSERT_EQ(quotient.real,
                   read_back(ExactDecimal::divide_to_scientific(real_part, denominator, 14)));
         ASSERT_EQ(quotient.imag,

@@ -14,24 +14,25 @@ using testing::LineCase;
 
 TEST(VariableLines, DeclarationFormsAndAnswers) {
     const LineCase table[] = {
-        {"x = 5", ""},                 // a plain number shows nothing
+        {"x = 5", ""},  // a plain number shows nothing
         {"x", " = 5"},
         {"x = 1+2i", ""},
         {"x", " = 1+2i"},
-        {"x = 2+3", " = 5"},           // more than a number shows its value
+        {"x = 2+3", " = 5"},  // more than a number shows its value
         {"x = -4", ""},
         {"2x^2", " = 32"},
         {"x y", "' y ' can not be identified as a variable or a constant!"},
         {"y = x = 3", "Syntax error!"},
-        {"y", " = -4"},                // y took x's value before the second =
+        {"y", " = -4"},  // y took x's value before the second =
         {"X", "' X ' Could Not Be Identified As A Variable Or Function."},
         {"x = ", "There is an assigment or expression expected!"},
         {"tot_a = 1", ""},
         {"v.2 = 2", ""},
         {"tot_a + v.2", " = 3"},
-        {"sin = 5", ""},               // no bracket: not the embedded function
+        {"sin = 5", ""},  // no bracket: not the embedded function
         {"sin", " = 5"},
-        {"i = 2", "The character ' i ' is reserved for complex numbers, it can not be assigned a value!"},
+        {"i = 2",
+         "The character ' i ' is reserved for complex numbers, it can not be assigned a value!"},
         {"ix = 3", ""},
         {"ix", " = 3"},
     };
@@ -66,10 +67,15 @@ TEST(VariableLines, IncrementalDeclarations) {
         {"n = -1, 10, 5", ""},
         {"c = 0, 1+i, 3", ""},
         {"v = 1, 1, 5", "The lower and higher incremental limits for ' v ' can not be equal"},
-        {"v = 0, 1, 2.5", "The number of increments must be an integer in variable declaration of ' v '"},
-        {"v = 0, 1, 2i", "The number of increments must be an integer in variable declaration of ' v '"},
-        {"v = 1, 2", "A comma ' , ' can only be used to separate function parameters or define an incremental variable!"},
-        {"e2 = 0, 2*3 5, 4", "Comma expected after high limit in incremental variable declaration Of ' e2 '"},
+        {"v = 0, 1, 2.5",
+         "The number of increments must be an integer in variable declaration of ' v '"},
+        {"v = 0, 1, 2i",
+         "The number of increments must be an integer in variable declaration of ' v '"},
+        {"v = 1, 2",
+         "A comma ' , ' can only be used to separate function parameters or define an incremental "
+         "variable!"},
+        {"e2 = 0, 2*3 5, 4",
+         "Comma expected after high limit in incremental variable declaration Of ' e2 '"},
     };
     check_lines(parser, table);
     EXPECT_TRUE(parser.var_incremented("t"));
@@ -189,7 +195,8 @@ TEST(VariableTable, VariablesSurviveAFailedLine) {
         {"a = 7 +", "Number or expression expected with operator!"},
         {"a", " = 1"},
         {"b = 1/0", "Division By Zero Encountered!"},
-        {"b", "' b ' Could Not Be Identified As A Variable Or Function."},  // created after its value
+        {"b",
+         "' b ' Could Not Be Identified As A Variable Or Function."},  // created after its value
     };
     check_lines(parser, table);
 }

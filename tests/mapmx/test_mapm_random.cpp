@@ -97,7 +97,8 @@ TEST(MapmRandom, ComplexOperationsMatchExactArithmetic) {
             v[k] = layer_value(t[k]);
             e[k] = ExactDecimal::parse(t[k]);
         }
-        const std::string operands_text = "(" + t[0] + "," + t[1] + ") op (" + t[2] + "," + t[3] + ")";
+        const std::string operands_text =
+            "(" + t[0] + "," + t[1] + ") op (" + t[2] + "," + t[3] + ")";
         MapmNumber rr, ri;
         m_apmc_mul(&rr, &ri, &v[0], &v[1], &v[2], &v[3]);
         const ExactDecimal real = ExactDecimal::subtract(ExactDecimal::multiply(e[0], e[2]),

@@ -35,12 +35,9 @@ TEST_F(DataFiles, EntriesAndSeparators) {
         std::vector<std::string> entries;
     };
     const Case table[] = {
-        {"1, 2 3", {"1", "2", "3"}},
-        {"\r\n\n  1\t,,2\r\n3\n", {"1", "2", "3"}},
-        {"1) 10 2) 20", {"10", "20"}},
-        {"f(2) 2)", {"f(2)"}},
-        {"SQRT(16), 4", {"SQRT(16)", "4"}},
-        {"1+i", {"1+i"}},
+        {"1, 2 3", {"1", "2", "3"}},        {"\r\n\n  1\t,,2\r\n3\n", {"1", "2", "3"}},
+        {"1) 10 2) 20", {"10", "20"}},      {"f(2) 2)", {"f(2)"}},
+        {"SQRT(16), 4", {"SQRT(16)", "4"}}, {"1+i", {"1+i"}},
     };
     for (const auto &c : table) {
         std::vector<std::string> entries;

@@ -115,7 +115,8 @@ std::string ExactDecimal::format(bool negative, const std::string &digits, long 
     text += digits[0];
     if (places > 0) {
         text += '.';
-        for (int i = 1; i <= places; ++i) text += i < static_cast<int>(digits.size()) ? digits[i] : '0';
+        for (int i = 1; i <= places; ++i)
+            text += i < static_cast<int>(digits.size()) ? digits[i] : '0';
     }
     const long scientific = exponent + static_cast<long>(digits.size()) - 1;
     text += scientific < 0 ? "E-" : "E+";

@@ -44,8 +44,7 @@ public:
 private:
     // Brings both to the smaller exponent.
     static void align(ExactDecimal &a, ExactDecimal &b);
-    static std::string format(bool negative, const std::string &digits, long exponent,
-                              int places);
+    static std::string format(bool negative, const std::string &digits, long exponent, int places);
 
     mpz_t coefficient_;
     long exponent_ = 0;
