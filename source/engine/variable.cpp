@@ -121,42 +121,29 @@ bool Variable::SetVarNumIncrmnts(long increments) {
     return true;
 }
 
-bool Variable::SetVarHiLimit(complex limit) {
-    if (limit == high_limit) {
+// Setting a limit to the value it already has takes the range down; SetVarNumIncrmnts
+// brings it back.
+bool Variable::set_limit(complex &field, complex limit) {
+    if (limit == field) {
         increment = complex{};
         assigned = false;
         incremented = false;
         return false;
     }
-    high_limit = limit;
+    field = limit;
     value = limit;
-    if (num_increments == 0) {
-        incremented = false;
-    } else {
-        set_increment();
-        incremented = true;
-    }
+    incremented = num_increments != 0;
+    if (incremented) set_increment();
     assigned = true;
     return true;
 }
 
+bool Variable::SetVarHiLimit(complex limit) {
+    return set_limit(high_limit, limit);
+}
+
 bool Variable::SetVarLowLimit(complex limit) {
-    if (limit == low_limit) {
-        increment = complex{};
-        assigned = false;
-        incremented = false;
-        return false;
-    }
-    low_limit = limit;
-    value = limit;
-    if (num_increments == 0) {
-        incremented = false;
-    } else {
-        set_increment();
-        incremented = true;
-    }
-    assigned = true;
-    return true;
+    return set_limit(low_limit, limit);
 }
 
 void Variable::StreamVariable(complex number, std::ostream &stream, int precision) {

@@ -53,6 +53,7 @@ public:
 
 private:
     void set_increment();
+    bool set_limit(complex &field, complex limit);
     void write_range(std::ostream &stream, int precision);
 };
 

@@ -3,6 +3,8 @@
 // Brace arguments: lists of expressions and data files, through a list function.
 #include <gtest/gtest.h>
 
+#include "temp_folder.h"
+
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -18,18 +20,12 @@ using testing::evaluate;
 
 class DataLists : public ::testing::Test {
 protected:
-    DataLists() {
-        char pattern[] = "/tmp/quindar-lists-XXXXXX";
-        folder_ = mkdtemp(pattern);
-    }
-    ~DataLists() override { std::filesystem::remove_all(folder_); }
     std::string file(const std::string &name, const std::string &content) {
-        const std::string path = folder_ + "/" + name;
-        std::ofstream(path, std::ios::binary) << content;
-        return path;
+        return folder.write(name, content);
     }
-    std::string folder_;
+    testing::TempFolder folder;
     Parser parser{"", ""};
+};
 };
 
 TEST_F(DataLists, ListsOfExpressions) {
@@ -91,13 +87,13 @@ TEST_F(DataLists, DataFilesAreReadByASecondEngine) {
 TEST_F(DataLists, FileNamesAreToldFromLists) {
     file("c.dat", "4 5");
     const auto previous = std::filesystem::current_path();
-    std::filesystem::current_path(folder_);
+    std::filesystem::current_path(folder.path());
     EXPECT_EQ(evaluate(parser, "SRESIST[{c.dat}]"), " = 9");
     EXPECT_EQ(evaluate(parser, "SRESIST[{x.y}]"), "Data File ' x.y ' Could Not Be Located!");
     EXPECT_EQ(evaluate(parser, "SRESIST[{C:\\dir\\noext}]"),
               "Data File ' C:\\dir\\noext ' Could Not Be Located!");
-    EXPECT_EQ(evaluate(parser, ("SRESIST[{" + folder_ + "/none}]").c_str()),
-              "Data File ' " + folder_ + "/none ' Could Not Be Located!");
+    EXPECT_EQ(evaluate(parser, ("SRESIST[{" + folder.path() + "/none}]").c_str()),
+              "Data File ' " + folder.path() + "/none ' Could Not Be Located!");
     EXPECT_EQ(evaluate(parser, "SRESIST[{c.dat}] + 1"), " = 10");
     std::filesystem::current_path(previous);
 }

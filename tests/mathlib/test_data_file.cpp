@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include "temp_folder.h"
+
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -16,17 +18,10 @@ namespace {
 
 class DataFiles : public ::testing::Test {
 protected:
-    DataFiles() {
-        char pattern[] = "/tmp/quindar-data-XXXXXX";
-        folder_ = mkdtemp(pattern);
+    std::string file(const std::string &name, const std::string &content) {
+        return folder.write(name, content);
     }
-    ~DataFiles() override { std::filesystem::remove_all(folder_); }
-    std::string write(const std::string &name, const std::string &content) {
-        const std::string path = folder_ + "/" + name;
-        std::ofstream(path, std::ios::binary) << content;
-        return path;
-    }
-    std::string folder_;
+    quindar::testing::TempFolder folder;
 };
 
 TEST_F(DataFiles, EntriesAndSeparators) {
@@ -41,18 +36,18 @@ TEST_F(DataFiles, EntriesAndSeparators) {
     };
     for (const auto &c : table) {
         std::vector<std::string> entries;
-        EXPECT_EQ(read_data_entries(write("d.txt", c.content), entries), DataFileStatus::Read);
+        EXPECT_EQ(read_data_entries(file("d.txt", c.content), entries), DataFileStatus::Read);
         EXPECT_EQ(entries, c.entries) << c.content;
     }
 }
 
 TEST_F(DataFiles, FailuresAndTheirTexts) {
     std::vector<std::string> entries;
-    const std::string missing = folder_ + "/none.txt";
+    const std::string missing = folder.path() + "/none.txt";
     EXPECT_EQ(read_data_entries(missing, entries), DataFileStatus::CannotOpen);
     EXPECT_EQ(data_file_message(DataFileStatus::CannotOpen, "x.dat"),
               "Data File ' x.dat ' Could Not Be Located!");
-    EXPECT_EQ(read_data_entries(write("e.txt", " \r\n\n"), entries), DataFileStatus::NoData);
+    EXPECT_EQ(read_data_entries(file("e.txt", " \r\n\n"), entries), DataFileStatus::NoData);
     EXPECT_EQ(data_file_message(DataFileStatus::NoData, "x.dat"),
               "No Data Found In The ' x.dat ' Data File!");
     EXPECT_EQ(data_file_message(DataFileStatus::TooMany, "x.dat"),
@@ -63,14 +58,14 @@ TEST_F(DataFiles, TheLimitIs32766Entries) {
     std::string content;
     for (int k = 0; k < 32766; ++k) content += "1 ";
     std::vector<std::string> entries;
-    EXPECT_EQ(read_data_entries(write("big.txt", content), entries), DataFileStatus::Read);
+    EXPECT_EQ(read_data_entries(file("big.txt", content), entries), DataFileStatus::Read);
     EXPECT_EQ(entries.size(), 32766u);
-    EXPECT_EQ(read_data_entries(write("big.txt", content + "1"), entries), DataFileStatus::TooMany);
+    EXPECT_EQ(read_data_entries(file("big.txt", content + "1"), entries), DataFileStatus::TooMany);
 }
 
 TEST_F(DataFiles, PointRows) {
     std::vector<PointRow> rows;
-    EXPECT_EQ(read_data_points(write("p.txt", "1 2\n\n3 4 5 6\n7"), rows), DataFileStatus::Read);
+    EXPECT_EQ(read_data_points(file("p.txt", "1 2\n\n3 4 5 6\n7"), rows), DataFileStatus::Read);
     ASSERT_EQ(rows.size(), 3u);
     EXPECT_EQ(rows[0].count, 2);
     EXPECT_EQ(rows[0].coordinates[2], "");
