@@ -3,15 +3,12 @@
 // Brace arguments: lists of expressions and data files, through a list function.
 #include <gtest/gtest.h>
 
-#include "temp_folder.h"
-
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <string>
 
 #include "line_table.h"
 #include "parser.h"
+#include "temp_folder.h"
 
 namespace quindar {
 namespace {
@@ -25,7 +22,6 @@ protected:
     }
     testing::TempFolder folder;
     Parser parser{"", ""};
-};
 };
 
 TEST_F(DataLists, ListsOfExpressions) {

@@ -5,13 +5,13 @@
 
 #include <gtest/gtest.h>
 
-#include "temp_folder.h"
-
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
 #include <vector>
+
+#include "temp_folder.h"
 
 namespace quindar::mathlib {
 namespace {
