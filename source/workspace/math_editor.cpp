@@ -96,13 +96,13 @@ bool MathEditor::ProcessComLine(bool advanceLine, bool complainIfEmpty, bool kee
         const std::size_t end = semicolon == std::string::npos ? text.size() : semicolon;
         std::string statement = text.substr(at, end - at);
         isLastStatement = semicolon == std::string::npos;
-        // An earlier statement is computed in its own place, so that what it removes from
-        // the text, and where its caret goes, stay inside it.
+        // An earlier statement is computed in its own place: the old answer it carries is
+        // removed there, and the caret comes back to the line's end for the next one.
         statementBack = static_cast<int>(text.size() - end);
-        SetCursorAtLineEnd(line, statementBack);
         failed = Calculate(statement);
         statementBack = 0;
         if (failed || isLastStatement) break;
+        SetCursorAtLineEnd(line);
         at = semicolon + 1;
         if (text.find_first_not_of(kWhiteSpace, at) == std::string::npos) break;
     }
