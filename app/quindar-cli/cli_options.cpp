@@ -4,7 +4,9 @@
 
 namespace quindar::cli {
 
-const char *const kUsage =
+const char *const kUsage = "Usage: quindar-cli [--enter] [--in-place] [FILE]\n";
+
+const char *const kHelp =
     "Usage: quindar-cli [--enter] [--in-place] [FILE]\n"
     "Computes every line of FILE (standard input when FILE is missing or \"-\") in a Math\n"
     "Editor and prints the resulting text: each answer is written behind its line (\"2+3\"\n"

@@ -12,7 +12,9 @@
 
 namespace quindar::cli {
 
+// The synopsis, and the whole help text that begins with it.
 extern const char *const kUsage;
+extern const char *const kHelp;
 
 struct Options {
     bool help = false;

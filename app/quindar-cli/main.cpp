@@ -23,9 +23,9 @@ int main(int argc, char **argv) {
     using namespace quindar;
     std::string error;
     const auto options = cli::ParseOptions(std::vector<std::string>(argv + 1, argv + argc), error);
-    if (!options) return Fail(error + "\n" + cli::kUsage);
+    if (!options) return Fail(error + "\n" + cli::kUsage + "Try \"quindar-cli --help\".");
     if (options->help) {
-        std::cout << cli::kUsage;
+        std::cout << cli::kHelp;
         return 0;
     }
     const auto input = cli::ReadInput(options->path, error);

@@ -74,8 +74,12 @@ bool MathEditor::Calculate(std::string &statement) {
     const int end = GetCharLength(line) - 2 - statementBack;
     const std::optional<int> commentStart = FindCommentStart(statement);
 
-    if (IsRecalculating(statement)) {
-        int p = static_cast<int>(statement.rfind('='));
+    // An "=" inside the comment is no old answer: what stands left of the comment is judged
+    // alone, so that a comment such as "// x = 7" is never taken for one and cut away.
+    const std::string_view judged = std::string_view(statement).substr(
+        0, static_cast<std::size_t>(commentStart.value_or(length)));
+    if (IsRecalculating(judged)) {
+        int p = static_cast<int>(judged.rfind('='));
         while (p > 0 && statement[static_cast<std::size_t>(p) - 1] == ' ') --p;
         SetCursorAtLineEnd(line, statementBack);
         const int removeTo = commentStart ? end - (length - *commentStart) : end;

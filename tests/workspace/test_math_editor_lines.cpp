@@ -64,6 +64,10 @@ TEST(MathEditorLines, CommentsStayBehindTheAnswer) {
         {"|2+3 = 7// sum", "2+3 = 5|// sum", true},
         {"|2+3 // a // b", "2+3 = 5| // a // b", true},
         {"|2+3 // x = 1/2", "2+3 = 5| // x = 1/2", true},
+        // An "=" in the comment is not an old answer, and the comment stays whole.
+        {"|2+3 // x = 7", "2+3 = 5| // x = 7", true},
+        {"|2+3 = 9 // x = 7", "2+3 = 5| // x = 7", true},
+        {"|2+3 = 9 // x = 7; 1", "2+3 // x = 7; 1 = 1|", true},
         // A comment line computes nothing and nothing moves.
         {"|// 2+3", "|// 2+3", true},
         {"//|", "//|", true},
