@@ -1,63 +1,44 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Quindar developers
-// quindar-cli: evaluates a text line by line with the document engine and prints each
-// line with its answer behind it, so everything the editor computes works headless.
-#include <cstring>
-#include <fstream>
+// quindar-cli: a text through the Math Editor without windows. Every line is computed as the
+// editor computes it on a key press, and the text comes back with the answers written in.
 #include <iostream>
 #include <string>
+#include <vector>
 
-#include "parser.h"
+#include "cli_files.h"
+#include "cli_options.h"
+#include "text_run.h"
 
 namespace {
 
-constexpr const char *kUsage =
-    "Usage: quindar-cli [FILE]\n"
-    "Evaluates each non-empty line of FILE (or of standard input when FILE is missing\n"
-    "or \"-\") and prints it with its answer: \"2+3 = 5\". A line that fails is printed\n"
-    "as typed, followed by a line \"error: \" and the engine's message.\n"
-    "Exit status: 0 when every line computed, 1 when a line failed, 2 on a usage or\n"
-    "file error.\n";
-
-int run(std::istream &input) {
-    quindar::Parser parser("", "");
-    bool failed = false;
-    std::string line;
-    while (std::getline(input, line)) {
-        if (!line.empty() && line.back() == '\r') line.pop_back();
-        if (line.find_first_not_of(" \t") == std::string::npos) {
-            std::cout << line << '\n';
-            continue;
-        }
-        const char *answer = parser.eval_exp(line.c_str(), true, true);
-        if (parser.IsAnError()) {
-            failed = true;
-            const char *message = parser.GetLastError();
-            std::cout << line << "\nerror: " << (message ? message : "") << '\n';
-        } else {
-            std::cout << line << answer << '\n';
-        }
-    }
-    return failed ? 1 : 0;
+int Fail(const std::string &message) {
+    std::cerr << "quindar-cli: " << message << '\n';
+    return 2;
 }
 
 }  // namespace
 
 int main(int argc, char **argv) {
-    if (argc > 2) {
-        std::cerr << kUsage;
-        return 2;
-    }
-    if (argc == 2 && (std::strcmp(argv[1], "--help") == 0 || std::strcmp(argv[1], "-h") == 0)) {
-        std::cout << kUsage;
+    using namespace quindar;
+    std::string error;
+    const auto options = cli::ParseOptions(std::vector<std::string>(argv + 1, argv + argc), error);
+    if (!options) return Fail(error + "\n" + cli::kUsage + "Try \"quindar-cli --help\".");
+    if (options->help) {
+        std::cout << cli::kHelp;
         return 0;
     }
-    if (argc == 1 || std::strcmp(argv[1], "-") == 0) return run(std::cin);
-    std::ifstream file(argv[1], std::ios::binary);
-    if (!file) {
-        std::cerr << "quindar-cli: cannot open \"" << argv[1] << "\": " << std::strerror(errno)
-                  << '\n';
-        return 2;
+    const auto input = cli::ReadInput(options->path, error);
+    if (!input) return Fail(error);
+
+    const TextRun run = RunText(*input, options->key);
+    if (options->inPlace) {
+        if (!cli::ReplaceFile(options->path, run.text, error)) return Fail(error);
+    } else {
+        std::cout << run.text << std::flush;
+        if (!std::cout) return Fail("cannot write standard output");
     }
-    return run(file);
+    for (const LineFailure &failure : run.failures)
+        std::cerr << failure.line << ": " << failure.message << '\n';
+    return run.failures.empty() ? 0 : 1;
 }

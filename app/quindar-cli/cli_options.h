@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Quindar developers
+#pragma once
+
+// The command line of quindar-cli.
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "text_run.h"
+
+namespace quindar::cli {
+
+// The synopsis, and the whole help text that begins with it.
+extern const char *const kUsage;
+extern const char *const kHelp;
+
+struct Options {
+    bool help = false;
+    bool inPlace = false;
+    RunKey key = RunKey::F4;
+    std::string path = "-";  // "-" is standard input
+};
+
+// The options, or the reason they are wrong in error.
+std::optional<Options> ParseOptions(const std::vector<std::string> &arguments, std::string &error);
+
+}  // namespace quindar::cli

@@ -1,0 +1,93 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Runs quindar-cli once and checks what it printed, wrote and returned.
+#   CLI     the program
+#   WORK    a folder of this test's own
+#   MODE    file | enter | stdin | in-place: compute INPUT and compare with EXPECTED (and
+#           ERRORS, when that file exists); usage: run with ARGS (and ARGS2) and check CODE,
+#           and that
+#           standard output holds STDOUT_HAS or standard error STDERR_HAS
+cmake_minimum_required(VERSION 3.25)
+
+file(REMOVE_RECURSE ${WORK})
+file(MAKE_DIRECTORY ${WORK})
+set(out ${WORK}/stdout)
+set(err ${WORK}/stderr)
+
+function(fail message)
+    foreach(stream stdout stderr)
+        if(EXISTS ${WORK}/${stream})
+            file(READ ${WORK}/${stream} text)
+            string(APPEND message "\n--- ${stream} ---\n${text}")
+        endif()
+    endforeach()
+    message(FATAL_ERROR "${message}")
+endfunction()
+
+function(same_file actual expected what)
+    execute_process(COMMAND ${CMAKE_COMMAND} -E compare_files ${actual} ${expected}
+        RESULT_VARIABLE different)
+    if(different)
+        file(READ ${expected} wanted)
+        fail("${what} differs from ${expected}; expected:\n${wanted}")
+    endif()
+endfunction()
+
+if(MODE STREQUAL "usage")
+    execute_process(COMMAND ${CLI} ${ARGS} ${ARGS2} OUTPUT_FILE ${out} ERROR_FILE ${err}
+        RESULT_VARIABLE code)
+    if(NOT code STREQUAL CODE)
+        fail("exit status ${code}, expected ${CODE}")
+    endif()
+    foreach(stream STDOUT STDERR)
+        if(DEFINED ${stream}_HAS)
+            string(TOLOWER ${stream} file)
+            file(READ ${WORK}/${file} text)
+            string(FIND "${text}" "${${stream}_HAS}" at)
+            if(at EQUAL -1)
+                fail("${file} lacks \"${${stream}_HAS}\"")
+            endif()
+        endif()
+    endforeach()
+    return()
+endif()
+
+if(EXISTS ${ERRORS})
+    set(expected_code 1)
+else()
+    set(expected_code 0)
+    set(ERRORS ${WORK}/no-errors)
+    file(WRITE ${ERRORS} "")
+endif()
+
+if(MODE STREQUAL "file")
+    execute_process(COMMAND ${CLI} ${INPUT} OUTPUT_FILE ${out} ERROR_FILE ${err}
+        RESULT_VARIABLE code)
+elseif(MODE STREQUAL "enter")
+    execute_process(COMMAND ${CLI} --enter ${INPUT} OUTPUT_FILE ${out} ERROR_FILE ${err}
+        RESULT_VARIABLE code)
+elseif(MODE STREQUAL "stdin")
+    execute_process(COMMAND ${CLI} - INPUT_FILE ${INPUT} OUTPUT_FILE ${out} ERROR_FILE ${err}
+        RESULT_VARIABLE code)
+elseif(MODE STREQUAL "in-place")
+    set(copy ${WORK}/document.txt)
+    file(COPY_FILE ${INPUT} ${copy})
+    execute_process(COMMAND ${CLI} --in-place ${copy} OUTPUT_FILE ${out} ERROR_FILE ${err}
+        RESULT_VARIABLE code)
+    file(SIZE ${out} printed)
+    if(NOT printed EQUAL 0)
+        fail("--in-place printed the text")
+    endif()
+    file(GLOB left_over ${WORK}/document.txt.*)
+    if(left_over)
+        fail("temporary files left: ${left_over}")
+    endif()
+    set(out ${copy})
+else()
+    message(FATAL_ERROR "unknown MODE \"${MODE}\"")
+endif()
+
+if(NOT code STREQUAL expected_code)
+    fail("exit status ${code}, expected ${expected_code}")
+endif()
+same_file(${out} ${EXPECTED} "the text")
+same_file(${err} ${ERRORS} "standard error")
