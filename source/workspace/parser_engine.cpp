@@ -4,19 +4,6 @@
 #include "parser.h"
 
 namespace quindar {
-namespace {
-
-// The engine answers for variable names once its look-up is public; until then no name is
-// a variable, and a plain name on the left of "=" is still told apart by its characters.
-template <class Engine>
-bool knows_variable(const Engine &engine, const char *name) {
-    if constexpr (requires { engine.is_variable(name); })
-        return engine.is_variable(name);
-    else
-        return false;
-}
-
-}  // namespace
 
 const char *ParserEngine::eval_exp(const char *statement, bool silent, bool showEquals) {
     return parser.eval_exp(statement, silent, showEquals);
@@ -31,7 +18,7 @@ void ParserEngine::ClearLastError() {
 }
 
 bool ParserEngine::is_variable(const std::string &name) const {
-    return knows_variable(parser, name.c_str());
+    return parser.is_variable(name.c_str());
 }
 
 bool ParserEngine::assignment_made() const {

@@ -110,13 +110,21 @@ TEST(MathEditorLines, AFailedLineKeepsItsTextLessItsOldAnswer) {
         {"|1/0 = 5", "1/0|", false},
         {"|1/0 = 5 // c", "1/0| // c", false},
         {"|(1+2", "(1+2|", false},
-        // Old answers only come off expressions: these reach the engine whole.
-        {"|x = 7", "x = 7|", false},
-        {"|x = 0, 10, 11", "x = 0, 10, 11|", false},
+        // Old answers only come off expressions: this reaches the engine whole.
         {"|a<=5", "a<=5|", false},
-        {"|f[x]=x^2", "f[x]=x^2|", false},
         // f[x] counts as an expression, so its "=2" is an old answer and is removed.
         {"|f[x]=2", "f[x]|", false},
+    };
+    for (const auto &c : cases) ExpectF4(c);
+}
+
+TEST(MathEditorLines, DeclarationsAreNeverOldAnswers) {
+    const LineCase cases[] = {
+        {"|x = 7", "x = 7|", true},
+        {"|x = 0, 10, 11", "x = 0, 10, 11|", true},
+        {"|f[x]=x^2", "f[x]=x^2|", true},
+        {"|y = 2+3", "y = 2+3 = 5|", true},
+        {"|y = 2+3 = 9", "y = 2+3 = 5|", true},
     };
     for (const auto &c : cases) ExpectF4(c);
 }
