@@ -16,6 +16,18 @@ struct HandlerRow {
 };
 
 const HandlerRow kHandlers[] = {
+    {"SQRT", EmbeddedCalls::call_sqrt},       {"LN", EmbeddedCalls::call_log},
+    {"LOG10", EmbeddedCalls::call_log10},     {"EXP", EmbeddedCalls::call_exp},
+    {"ABS", EmbeddedCalls::call_abs},         {"ROUND", EmbeddedCalls::call_round},
+    {"TRUNC", EmbeddedCalls::call_trunc},     {"REM", EmbeddedCalls::call_fmod},
+    {"FLOOR", EmbeddedCalls::call_floor},     {"CEIL", EmbeddedCalls::call_ceil},
+    {"DEG", EmbeddedCalls::call_degree},      {"RAD", EmbeddedCalls::call_radian},
+    {"SIN", EmbeddedCalls::call_sin},         {"COS", EmbeddedCalls::call_cos},
+    {"TAN", EmbeddedCalls::call_tan},         {"SINH", EmbeddedCalls::call_sinh},
+    {"COSH", EmbeddedCalls::call_cosh},       {"TANH", EmbeddedCalls::call_tanh},
+    {"ASIN", EmbeddedCalls::call_asin},       {"ACOS", EmbeddedCalls::call_acos},
+    {"ATAN", EmbeddedCalls::call_atan},       {"ASINH", EmbeddedCalls::call_asinh},
+    {"ACOSH", EmbeddedCalls::call_acosh},     {"ATANH", EmbeddedCalls::call_atanh},
     {"POW", EmbeddedCalls::call_pow},         {"CUBERT", EmbeddedCalls::call_cubert},
     {"LOG", EmbeddedCalls::call_logarithm},   {"GCD", EmbeddedCalls::call_gcd},
     {"LCM", EmbeddedCalls::call_lcm},         {"RTOP", EmbeddedCalls::call_rtop},

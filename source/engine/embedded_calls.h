@@ -21,6 +21,31 @@ public:
     // arrived.
     static Handler handler(int index);
 
+    // Functions through the complex decimal layer.
+    static complex call_sqrt(Parser &p, std::ostream &answer);
+    static complex call_log(Parser &p, std::ostream &answer);
+    static complex call_log10(Parser &p, std::ostream &answer);
+    static complex call_exp(Parser &p, std::ostream &answer);
+    static complex call_abs(Parser &p, std::ostream &answer);
+    static complex call_round(Parser &p, std::ostream &answer);
+    static complex call_trunc(Parser &p, std::ostream &answer);
+    static complex call_fmod(Parser &p, std::ostream &answer);
+    static complex call_floor(Parser &p, std::ostream &answer);
+    static complex call_ceil(Parser &p, std::ostream &answer);
+    static complex call_degree(Parser &p, std::ostream &answer);
+    static complex call_radian(Parser &p, std::ostream &answer);
+    static complex call_sin(Parser &p, std::ostream &answer);
+    static complex call_cos(Parser &p, std::ostream &answer);
+    static complex call_tan(Parser &p, std::ostream &answer);
+    static complex call_sinh(Parser &p, std::ostream &answer);
+    static complex call_cosh(Parser &p, std::ostream &answer);
+    static complex call_tanh(Parser &p, std::ostream &answer);
+    static complex call_asin(Parser &p, std::ostream &answer);
+    static complex call_acos(Parser &p, std::ostream &answer);
+    static complex call_atan(Parser &p, std::ostream &answer);
+    static complex call_asinh(Parser &p, std::ostream &answer);
+    static complex call_acosh(Parser &p, std::ostream &answer);
+    static complex call_atanh(Parser &p, std::ostream &answer);
     // General and complex functions.
     static complex call_pow(Parser &p, std::ostream &answer);
     static complex call_cubert(Parser &p, std::ostream &answer);

@@ -88,6 +88,22 @@ public:
 
     // Workers shared by the operators, the embedded functions and the map solver.
     complex _pow(const complex &a, const complex &b);
+    complex _sqrt(const complex &z);
+    complex _log(const complex &z);
+    complex _log10(const complex &z);
+    complex _exp(const complex &z);
+    complex _abs(const complex &z);
+    complex _round(const complex &z);
+    complex _trunc(const complex &z);
+    complex _floor(const complex &z);
+    complex _ceil(const complex &z);
+    complex _fmod(const complex &a, const complex &b);
+    complex _degree(const complex &z);
+    complex _radian(const complex &z);
+    complex _trig_func(const complex &z, int fn);
+    complex _hyp_trig_func(const complex &z, int fn);
+    complex _arc_trig_func(const complex &z, int fn);
+    complex _arc_hyp_trig_func(const complex &z, int fn);
     complex _factorial(const complex &z);
     complex _less(bool &chain, const complex &a, const complex &b);
     complex _leseq(bool &chain, const complex &a, const complex &b);
@@ -313,6 +329,13 @@ private:
     Variable *variable_at(int index);
     Variable *variable_named(const char *name);
     const char *variable_text_of(Variable *variable, int precision, bool definition);
+
+    // One value through an operation of the complex decimal layer at 14 places.
+    template <class Operation>
+    complex complex_worker(const complex &z, Operation operation);
+    long double reduce_angle(long double x, const char *turn, MapmNumber &remainder);
+    // z as the message of a pole shows it: the variable format's digits.
+    std::string value_text(const complex &z);
 
     // Relational worker shared by the six comparisons.
     template <class Relation>

@@ -46,6 +46,37 @@ int m_apmc_lt(const MapmNumber *ar, const MapmNumber *ai, const MapmNumber *br,
 int m_apmc_le(const MapmNumber *ar, const MapmNumber *ai, const MapmNumber *br,
               const MapmNumber *bi);
 
+// Elementary functions; those returning int give -1 where they have no value (log of
+// 0, poles of tan and tanh, the two points where arctan and arctanh fail).
+void m_apmc_sqr(M_APM rr, M_APM ri, const MapmNumber *ar, const MapmNumber *ai);
+void m_apmc_abs(M_APM r, int digits, const MapmNumber *ar, const MapmNumber *ai);
+void m_apmc_sqrt(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai);
+void m_apmc_exp(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai);
+int m_apmc_log(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai);
+int m_apmc_log10(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai);
+void m_apmc_sin(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai);
+void m_apmc_cos(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai);
+int m_apmc_tan(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai);
+void m_apmc_sinh(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai);
+void m_apmc_cosh(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai);
+int m_apmc_tanh(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai);
+void m_apmc_arcsin(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai);
+void m_apmc_arccos(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai);
+int m_apmc_arctan(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai);
+void m_apmc_arcsinh(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai);
+void m_apmc_arccosh(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai);
+int m_apmc_arctanh(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai);
+
+// Whole parts, each part for itself: floor, ceiling, halves away from zero, towards 0.
+void m_apmc_floor(M_APM rr, M_APM ri, const MapmNumber *ar, const MapmNumber *ai);
+void m_apmc_ceil(M_APM rr, M_APM ri, const MapmNumber *ar, const MapmNumber *ai);
+void m_apmc_round(M_APM rr, M_APM ri, const MapmNumber *ar, const MapmNumber *ai);
+void m_apmc_fix(M_APM rr, M_APM ri, const MapmNumber *ar, const MapmNumber *ai);
+// The Gaussian remainder of a by b, on parts rounded to whole numbers; -1 when the
+// rounded divisor is 0 (results untouched).
+int m_apmc_mod(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai,
+               const MapmNumber *br, const MapmNumber *bi);
+
 // 1 when both parts are 0.
 int m_apmc_is0(const MapmNumber *ar, const MapmNumber *ai);
 

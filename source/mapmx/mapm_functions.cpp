@@ -70,7 +70,12 @@ void unary(M_APM result, int places, const MapmNumber *value) {
 }  // namespace
 
 void m_apm_sqrt(M_APM result, int places, const MapmNumber *value) {
-    // The decimal library's square root is exact to its last digit.
+    // A negative value has no real root: 0, as for a difference that rounding pushed
+    // just below zero. The decimal library's root is exact to its last digit.
+    if (m_apm_sign(value) < 0) {
+        m_apm_set_zero(result);
+        return;
+    }
     _IDEC_flags flags = 0;
     const BID_UINT128 root = bid128_sqrt(bid::load(value), kCut, &flags);
     bid::store(result, bid::round_to_places(root, places));
@@ -90,6 +95,47 @@ void m_apm_sin(M_APM result, int places, const MapmNumber *value) {
 
 void m_apm_cos(M_APM result, int places, const MapmNumber *value) {
     unary<mpfr_cos>(result, places, value);
+}
+
+void m_apm_log10(M_APM result, int places, const MapmNumber *value) {
+    unary<mpfr_log10>(result, places, value);
+}
+
+void m_apm_sinh(M_APM result, int places, const MapmNumber *value) {
+    unary<mpfr_sinh>(result, places, value);
+}
+
+void m_apm_cosh(M_APM result, int places, const MapmNumber *value) {
+    unary<mpfr_cosh>(result, places, value);
+}
+
+void m_apm_arcsinh(M_APM result, int places, const MapmNumber *value) {
+    unary<mpfr_asinh>(result, places, value);
+}
+
+void m_apm_log_10_base_e(M_APM result, int places) {
+    BinaryValue ten, logarithm;
+    mpfr_set_ui(ten.get(), 10, MPFR_RNDN);
+    mpfr_log(logarithm.get(), ten.get(), MPFR_RNDN);
+    from_binary(result, places, logarithm.get());
+}
+
+void m_apm_floor(M_APM result, const MapmNumber *value) {
+    _IDEC_flags flags = 0;
+    const BID_UINT128 x = bid128_round_integral_negative(bid::load(value), &flags);
+    if (bid128_isZero(x))
+        m_apm_set_zero(result);
+    else
+        bid::store(result, x);
+}
+
+void m_apm_ceil(M_APM result, const MapmNumber *value) {
+    _IDEC_flags flags = 0;
+    const BID_UINT128 x = bid128_round_integral_positive(bid::load(value), &flags);
+    if (bid128_isZero(x))
+        m_apm_set_zero(result);
+    else
+        bid::store(result, x);
 }
 
 void m_apm_arctan2(M_APM result, int places, const MapmNumber *y, const MapmNumber *x) {
