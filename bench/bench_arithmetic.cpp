@@ -46,4 +46,20 @@ void BM_eval_exp_ten_operators(benchmark::State &state) {
 }
 BENCHMARK(BM_eval_exp_ten_operators);
 
+// Embedded functions through the decimal layer and MPFR.
+void BM_eval_exp_functions(benchmark::State &state) {
+    quindar::Parser parser("", "");
+    const char *line = "SIN[30] + SQRT[2] * LN[10] - EXP[0.5]";
+    for (auto _ : state) benchmark::DoNotOptimize(parser.eval_exp(line, true, true));
+}
+BENCHMARK(BM_eval_exp_functions);
+
+// A user function spliced into the line, then evaluated.
+void BM_eval_exp_user_function(benchmark::State &state) {
+    quindar::Parser parser("", "");
+    parser.eval_exp("f[x] = x^2 + 3*x - 1/x", true, true);
+    for (auto _ : state) benchmark::DoNotOptimize(parser.eval_exp("f[2.5] + f[1.5]", true, true));
+}
+BENCHMARK(BM_eval_exp_user_function);
+
 }  // namespace
