@@ -333,6 +333,8 @@ private:
     // One value through an operation of the complex decimal layer at 14 places.
     template <class Operation>
     complex complex_worker(const complex &z, Operation operation);
+    template <class Operation>
+    complex complex_pair_worker(const complex &a, const complex &b, Operation operation);
     long double reduce_angle(long double x, const char *turn, MapmNumber &remainder);
     // z as the message of a pole shows it: the variable format's digits.
     std::string value_text(const complex &z);

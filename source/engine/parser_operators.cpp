@@ -4,6 +4,7 @@
 // and the map solver call the same ones, so a line and its map agree.
 #include "mapm_complex.h"
 #include "parser.h"
+#include "parser_complex_worker.h"
 
 namespace quindar {
 
@@ -12,17 +13,9 @@ constexpr int kPlaces = 14;
 }
 
 complex Parser::_pow(const complex &a, const complex &b) {
-    InitMapmValues();
-    SetMapmValue(a.real, mapm_a);
-    SetMapmValue(a.imag, mapm_b);
-    SetMapmValue(b.real, mapm_c);
-    SetMapmValue(b.imag, mapm_d);
     // 0 to a power that is not positive fails and leaves the results at 0.
-    m_apmc_pow(mapm_r1, mapm_r2, kPlaces, mapm_a, mapm_b, mapm_c, mapm_d);
-    const complex result{static_cast<double>(GetMapmValue(mapm_r1)),
-                         static_cast<double>(GetMapmValue(mapm_r2))};
-    FreeMapmValues();
-    return result;
+    return complex_pair_worker(
+        a, b, [this] { m_apmc_pow(mapm_r1, mapm_r2, kPlaces, mapm_a, mapm_b, mapm_c, mapm_d); });
 }
 
 complex Parser::_factorial(const complex &z) {

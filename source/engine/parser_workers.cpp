@@ -81,16 +81,8 @@ complex Parser::_fmod(const complex &a, const complex &b) {
         mathlib_exception(kOfZero, internal_function("REM"), nullptr);
         return complex{};
     }
-    InitMapmValues();
-    SetMapmValue(a.real, mapm_a);
-    SetMapmValue(a.imag, mapm_b);
-    SetMapmValue(b.real, mapm_c);
-    SetMapmValue(b.imag, mapm_d);
-    m_apmc_mod(mapm_r1, mapm_r2, kPlaces, mapm_a, mapm_b, mapm_c, mapm_d);
-    const complex result{static_cast<double>(GetMapmValue(mapm_r1)),
-                         static_cast<double>(GetMapmValue(mapm_r2))};
-    FreeMapmValues();
-    return result;
+    return complex_pair_worker(
+        a, b, [this] { m_apmc_mod(mapm_r1, mapm_r2, kPlaces, mapm_a, mapm_b, mapm_c, mapm_d); });
 }
 
 // Each part divided by pi/180; the angle mode plays no part.

@@ -74,6 +74,18 @@ bool cancels(const Complex &t, int margin, int places) {
     return m_apm_sign(&magnitude) == 0 || m_apm_exponent(&magnitude) < -3;
 }
 
+// p + q, or p - q where the sum nearly cancels for a large argument z. The root inside
+// is taken at digits + E(|z|^2)/2 + 4 places.
+struct LogArgument {
+    LogArgument(const MapmNumber *ar, const MapmNumber *ai, int digits)
+        : margin(half_margin(ar, ai)), wide(digits + margin + 4) {}
+    Complex sum_or_difference(const Complex &p, const Complex &q) const {
+        const Complex t = add(p, q);
+        return cancels(t, margin, wide) ? subtract(p, q) : t;
+    }
+    int margin, wide;
+};
+
 // -(i * ln t) = (arg t, -ln|t|).
 void minus_i_log(M_APM rr, M_APM ri, int digits, const Complex &t) {
     MapmNumber l_re, l_im;
@@ -96,25 +108,17 @@ void logarithm(M_APM rr, M_APM ri, int digits, const Complex &t) {
 }  // namespace
 
 void m_apmc_arcsin(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai) {
-    const int margin = half_margin(ar, ai);
-    const int wide = digits + margin + 4;
+    const LogArgument argument(ar, ai, digits);
     const Complex z = make(ar, ai);
-    const Complex u = root(subtract(real_value(1), square(z)), wide);
-    const Complex v = times_i(z);
-    Complex t = add(u, v);
-    if (cancels(t, margin, wide)) t = subtract(v, u);
-    minus_i_log(rr, ri, digits, t);
+    const Complex u = root(subtract(real_value(1), square(z)), argument.wide);
+    minus_i_log(rr, ri, digits, argument.sum_or_difference(times_i(z), u));
 }
 
 void m_apmc_arccos(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai) {
-    const int margin = half_margin(ar, ai);
-    const int wide = digits + margin + 4;
+    const LogArgument argument(ar, ai, digits);
     const Complex z = make(ar, ai);
-    const Complex u = root(subtract(real_value(1), square(z)), wide);
-    const Complex v = times_i(u);
-    Complex t = add(v, z);
-    if (cancels(t, margin, wide)) t = subtract(z, v);
-    minus_i_log(rr, ri, digits, t);
+    const Complex u = root(subtract(real_value(1), square(z)), argument.wide);
+    minus_i_log(rr, ri, digits, argument.sum_or_difference(z, times_i(u)));
 }
 
 void m_apmc_arcsinh(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai) {
@@ -123,23 +127,17 @@ void m_apmc_arcsinh(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const 
         m_apm_set_zero(ri);
         return;
     }
-    const int margin = half_margin(ar, ai);
-    const int wide = digits + margin + 4;
+    const LogArgument argument(ar, ai, digits);
     const Complex z = make(ar, ai);
-    const Complex u = root(add(real_value(1), square(z)), wide);
-    Complex t = add(z, u);
-    if (cancels(t, margin, wide)) t = subtract(z, u);
-    logarithm(rr, ri, digits, t);
+    const Complex u = root(add(real_value(1), square(z)), argument.wide);
+    logarithm(rr, ri, digits, argument.sum_or_difference(z, u));
 }
 
 void m_apmc_arccosh(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai) {
-    const int margin = half_margin(ar, ai);
-    const int wide = digits + margin + 4;
+    const LogArgument argument(ar, ai, digits);
     const Complex z = make(ar, ai);
-    const Complex u = root(subtract(square(z), real_value(1)), wide);
-    Complex t = add(z, u);
-    if (cancels(t, margin, wide)) t = subtract(z, u);
-    logarithm(rr, ri, digits, t);
+    const Complex u = root(subtract(square(z), real_value(1)), argument.wide);
+    logarithm(rr, ri, digits, argument.sum_or_difference(z, u));
 }
 
 // -(i * ln sqrt((1 + iz) / (1 - iz))).
