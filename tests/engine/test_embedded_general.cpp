@@ -51,6 +51,8 @@ TEST(EmbeddedCalls, ParameterChecks) {
         {"GCD[2.5,5]", "The parameters for GCD function call must be non negative integers!"},
         {"GCD[-2,5]", "The parameters for GCD function call must be non negative integers!"},
         {"GCD[2i,5]", "The parameters for GCD function call must be real numbers!"},
+        {"REAL[2 3]", "Brackets of type [ or ] expected for function call!"},
+        {"POW[2,3 4]", "Brackets of type [ or ] expected for function call!"},
         {"NORDIST[1,2]", "Sorry, the function \"NORDIST\" is not currently available!"},
     };
     check_lines(table);
