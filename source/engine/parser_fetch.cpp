@@ -9,9 +9,9 @@ namespace quindar {
 
 namespace {
 // Messages of the checks.
-constexpr int kIncomplete = 0, kCommaExpected = 1, kNoParameters = 2, kOneRequired = 3,
-              kTwoRequired = 4, kThreeRequired = 5, kFourRequired = 6, kTooMany = 7,
-              kCommaOutOfPlace = 8, kMustBeReal = 12, kNonNegativeIntegers = 18;
+constexpr int kCommaExpected = 1, kNoParameters = 2, kOneRequired = 3, kTwoRequired = 4,
+              kThreeRequired = 5, kFourRequired = 6, kTooMany = 7, kCommaOutOfPlace = 8,
+              kMustBeReal = 12, kNonNegativeIntegers = 18;
 }  // namespace
 
 void Parser::mathlib_exception(int number, int functionIndex, const char *text) {
