@@ -140,30 +140,33 @@ void m_apmc_arccosh(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const 
     logarithm(rr, ri, digits, argument.sum_or_difference(z, u));
 }
 
-// -(i * ln sqrt((1 + iz) / (1 - iz))).
-int m_apmc_arctan(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai) {
-    const Complex v = times_i(make(ar, ai));
-    const Complex numerator = add(real_value(1), v), denominator = subtract(real_value(1), v);
+namespace {
+
+// s = sqrt((1 + w) / (1 - w)) at `digits`; false where 1 - w or s is 0.
+bool root_of_ratio(Complex &s, const Complex &w, int digits) {
+    const Complex numerator = add(real_value(1), w), denominator = subtract(real_value(1), w);
     Complex q;
     if (m_apmc_div(&q.re, &q.im, digits, &numerator.re, &numerator.im, &denominator.re,
                    &denominator.im) != 0)
-        return -1;
-    const Complex s = root(q, digits);
-    if (m_apmc_is0(&s.re, &s.im)) return -1;
+        return false;
+    s = root(q, digits);
+    return !m_apmc_is0(&s.re, &s.im);
+}
+
+}  // namespace
+
+// -(i * ln sqrt((1 + iz) / (1 - iz))).
+int m_apmc_arctan(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai) {
+    Complex s;
+    if (!root_of_ratio(s, times_i(make(ar, ai)), digits)) return -1;
     minus_i_log(rr, ri, digits, s);
     return 0;
 }
 
 // ln sqrt((1 + z) / (1 - z)).
 int m_apmc_arctanh(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai) {
-    const Complex z = make(ar, ai);
-    const Complex numerator = add(real_value(1), z), denominator = subtract(real_value(1), z);
-    Complex q;
-    if (m_apmc_div(&q.re, &q.im, digits, &numerator.re, &numerator.im, &denominator.re,
-                   &denominator.im) != 0)
-        return -1;
-    const Complex s = root(q, digits);
-    if (m_apmc_is0(&s.re, &s.im)) return -1;
+    Complex s;
+    if (!root_of_ratio(s, make(ar, ai), digits)) return -1;
     logarithm(rr, ri, digits, s);
     return 0;
 }
