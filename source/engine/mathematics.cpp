@@ -6,6 +6,7 @@
 #include <cmath>
 #include <complex>
 #include <cstring>
+#include <new>
 
 #include "evaluation_abort.h"
 
@@ -163,6 +164,46 @@ void Mathematics::swap(long double &a, long double &b) {
     const long double t = a;
     a = b;
     b = t;
+}
+
+// The arrays keep the slots below the low index unused instead of offsetting a pointer
+// out of its block, so every index from 0 to the high one is valid memory.
+long double *Mathematics::vector(long nl, long nh) {
+    if (nl < 0 || nh < nl) {
+        math_exception(3);
+        return nullptr;
+    }
+    auto *v = new (std::nothrow) long double[static_cast<std::size_t>(nh) + 1]();
+    if (v == nullptr) math_exception(3);
+    return v;
+}
+
+void Mathematics::free_vector(long double *v, long, long) {
+    delete[] v;
+}
+
+long double **Mathematics::matrix(long nrl, long nrh, long ncl, long nch) {
+    if (nrl < 0 || ncl < 0 || nrh < nrl || nch < ncl) {
+        math_exception(4);
+        return nullptr;
+    }
+    const auto rows = static_cast<std::size_t>(nrh) + 1,
+               columns = static_cast<std::size_t>(nch) + 1;
+    auto **m = new (std::nothrow) long double *[rows];
+    auto *block = m ? new (std::nothrow) long double[rows * columns]() : nullptr;
+    if (block == nullptr) {
+        delete[] m;
+        math_exception(4);
+        return nullptr;
+    }
+    for (std::size_t r = 0; r < rows; ++r) m[r] = block + r * columns;
+    return m;
+}
+
+void Mathematics::free_matrix(long double **m, long, long, long, long) {
+    if (m == nullptr) return;
+    delete[] m[0];
+    delete[] m;
 }
 
 void Mathematics::SetLastError(const char *text) {

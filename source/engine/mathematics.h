@@ -57,6 +57,13 @@ public:
     // Digits that printing x needs.
     int precision(long double x);
 
+    // Arrays for the numeric methods, indexed from nl to nh (nl >= 0): a vector of long
+    // double, and a matrix whose rows lie in one block. Null after reporting a failure.
+    long double *vector(long nl, long nh);
+    static void free_vector(long double *v, long nl, long nh);
+    long double **matrix(long nrl, long nrh, long ncl, long nch);
+    static void free_matrix(long double **m, long nrl, long nrh, long ncl, long nch);
+
     // Take and release the six working values.
     void InitMapmValues();
     void FreeMapmValues();

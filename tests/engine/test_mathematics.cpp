@@ -82,6 +82,26 @@ TEST(Helpers, PrintingPrecision) {
     EXPECT_EQ(math.precision(12.125L), 5);
 }
 
+TEST(Helpers, VectorsAndMatricesIndexedByTheirBounds) {
+    Mathematics math;
+    long double *v = math.vector(1, 5);
+    ASSERT_NE(v, nullptr);
+    for (long k = 1; k <= 5; ++k) v[k] = static_cast<long double>(k * k);
+    EXPECT_EQ(v[5], 25.0L);
+    Mathematics::free_vector(v, 1, 5);
+    long double **m = math.matrix(1, 3, 1, 4);
+    ASSERT_NE(m, nullptr);
+    for (long r = 1; r <= 3; ++r)
+        for (long c = 1; c <= 4; ++c) m[r][c] = static_cast<long double>(10 * r + c);
+    EXPECT_EQ(m[3][4], 34.0L);
+    EXPECT_EQ(m[1][1], 11.0L);
+    Mathematics::free_matrix(m, 1, 3, 1, 4);
+    EXPECT_EQ(math.vector(5, 1), nullptr);
+    EXPECT_STREQ(math.GetLastError(), "Vector Memory Allocation Failure!");
+    EXPECT_EQ(math.matrix(2, 1, 1, 1), nullptr);
+    EXPECT_STREQ(math.GetLastError(), "Matrix Memory Allocation Failure!");
+}
+
 TEST(RoundTrip, ResultsCarryFifteenDigits) {
     Mathematics math;
     EXPECT_EQ(math.complex_add({0.1, 0}, {0.2, 0}).real, 0.3);
