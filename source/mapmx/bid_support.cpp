@@ -12,8 +12,7 @@ constexpr std::uint64_t kNanMask = 0x7c00000000000000ull;
 constexpr std::uint64_t kSteeringMask = 0x6000000000000000ull;
 // The largest coefficient a canonical decimal128 can hold: 10^34 - 1.
 constexpr unsigned __int128 kMaxCoefficient =
-    static_cast<unsigned __int128>(999999999999999999ull) * 10000000000000000ull +
-    9999999999999999ull;
+    static_cast<unsigned __int128>(999999999999999999ull) * 10000000000000000ull + 9999999999999999ull;
 }  // namespace
 
 // Reads the binary integer encoding directly: a decimal value is a sign, a biased

@@ -42,8 +42,8 @@ void scale_up(mpz_t value, long digits) {
 }
 
 // out = x*y + z*w, exactly.
-void sum_of_products(Exact &out, const BID_UINT128 &x, const BID_UINT128 &y, const BID_UINT128 &z,
-                     const BID_UINT128 &w) {
+void sum_of_products(Exact &out, const BID_UINT128 &x, const BID_UINT128 &y,
+                     const BID_UINT128 &z, const BID_UINT128 &w) {
     Exact a, b, c, d;
     load(a, x);
     load(b, y);
@@ -71,8 +71,9 @@ void sum_of_products(Exact &out, const BID_UINT128 &x, const BID_UINT128 &y, con
 
 }  // namespace
 
-BID_UINT128 exact_quotient_of_sums(const BID_UINT128 &a, const BID_UINT128 &b, const BID_UINT128 &c,
-                                   const BID_UINT128 &d, const BID_UINT128 &e, const BID_UINT128 &f,
+BID_UINT128 exact_quotient_of_sums(const BID_UINT128 &a, const BID_UINT128 &b,
+                                   const BID_UINT128 &c, const BID_UINT128 &d,
+                                   const BID_UINT128 &e, const BID_UINT128 &f,
                                    const BID_UINT128 &g, const BID_UINT128 &h) {
     Exact numerator, denominator;
     sum_of_products(numerator, a, b, c, d);

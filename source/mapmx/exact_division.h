@@ -12,8 +12,9 @@
 namespace quindar::bid {
 
 // (a*b + c*d) / (e*f + g*h), cut towards zero at 34 digits. The denominator must not be 0.
-BID_UINT128 exact_quotient_of_sums(const BID_UINT128 &a, const BID_UINT128 &b, const BID_UINT128 &c,
-                                   const BID_UINT128 &d, const BID_UINT128 &e, const BID_UINT128 &f,
+BID_UINT128 exact_quotient_of_sums(const BID_UINT128 &a, const BID_UINT128 &b,
+                                   const BID_UINT128 &c, const BID_UINT128 &d,
+                                   const BID_UINT128 &e, const BID_UINT128 &f,
                                    const BID_UINT128 &g, const BID_UINT128 &h);
 
 }  // namespace quindar::bid

@@ -21,13 +21,9 @@ using bid::store;
 using bid::kCut;
 using bid::round_to_places;
 
-BID_UINT128 zero() {
-    return bid128_from_int32(0);
-}
+BID_UINT128 zero() { return bid128_from_int32(0); }
 
-bool is_special(const BID_UINT128 &x) {
-    return !bid128_isFinite(x);
-}
+bool is_special(const BID_UINT128 &x) { return !bid128_isFinite(x); }
 
 // Writes the decimal digits of a coefficient, most significant first.
 int coefficient_digits(unsigned __int128 coefficient, char *out) {
@@ -56,13 +52,9 @@ M_APM m_apm_init() {
     return value;
 }
 
-void m_apm_free(M_APM value) {
-    delete value;
-}
+void m_apm_free(M_APM value) { delete value; }
 
-void m_apm_set_zero(M_APM result) {
-    store(result, zero());
-}
+void m_apm_set_zero(M_APM result) { store(result, zero()); }
 
 void m_apm_set_long(M_APM result, long value) {
     store(result, bid128_from_int64(static_cast<BID_SINT64>(value)));
@@ -157,9 +149,7 @@ int m_apm_sign(const MapmNumber *value) {
     return bid128_isSigned(x) ? -1 : 1;
 }
 
-bool m_apm_is_finite(const MapmNumber *value) {
-    return bid128_isFinite(load(value)) != 0;
-}
+bool m_apm_is_finite(const MapmNumber *value) { return bid128_isFinite(load(value)) != 0; }
 
 bool m_apm_is_integer(const MapmNumber *value) {
     _IDEC_flags flags = 0;
@@ -184,6 +174,18 @@ void m_apm_integer_div_rem(M_APM quotient, M_APM remainder, const MapmNumber *a,
     const BID_UINT128 r = bid128_fma(bid128_negate(q), y, x, kCut, &flags);
     store(quotient, bid128_isZero(q) ? zero() : q);
     store(remainder, bid128_isZero(r) ? zero() : r);
+}
+
+void m_apm_floor(M_APM result, const MapmNumber *value) {
+    _IDEC_flags flags = 0;
+    const BID_UINT128 x = bid128_round_integral_negative(load(value), &flags);
+    store(result, bid128_isZero(x) ? zero() : x);
+}
+
+void m_apm_ceil(M_APM result, const MapmNumber *value) {
+    _IDEC_flags flags = 0;
+    const BID_UINT128 x = bid128_round_integral_positive(load(value), &flags);
+    store(result, bid128_isZero(x) ? zero() : x);
 }
 
 void m_apm_factorial(M_APM result, const MapmNumber *n) {

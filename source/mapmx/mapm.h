@@ -70,6 +70,11 @@ int m_apm_exponent(const MapmNumber *value);
 void m_apm_integer_div_rem(M_APM quotient, M_APM remainder, const MapmNumber *a,
                            const MapmNumber *b);
 
+// The whole value at or below (floor), at or above (ceil). A zero result is 0, never
+// -0: the ceiling of -0.5 is 0.
+void m_apm_floor(M_APM result, const MapmNumber *value);
+void m_apm_ceil(M_APM result, const MapmNumber *value);
+
 // n! of a whole value 0 <= n; the exact product rounded to 34 digits.
 void m_apm_factorial(M_APM result, const MapmNumber *n);
 

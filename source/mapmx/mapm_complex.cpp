@@ -45,8 +45,8 @@ int m_apmc_div(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmN
     const BID_UINT128 denominator =
         bid128_add(bid128_mul(c, c, kCut, &flags), bid128_mul(d, d, kCut, &flags), kCut, &flags);
     const BID_UINT128 minus_a = bid128_negate(a);
-    BID_UINT128 real =
-        bid128_add(bid128_mul(a, c, kCut, &flags), bid128_mul(b, d, kCut, &flags), kCut, &flags);
+    BID_UINT128 real = bid128_add(bid128_mul(a, c, kCut, &flags), bid128_mul(b, d, kCut, &flags),
+                                  kCut, &flags);
     BID_UINT128 imag = bid128_add(bid128_mul(c, b, kCut, &flags),
                                   bid128_mul(d, minus_a, kCut, &flags), kCut, &flags);
     if (flags & BID_INEXACT_EXCEPTION) {

@@ -1,174 +1,115 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Quindar developers
-// Inverse circular and hyperbolic functions of complex values, by logarithms and
-// quotients.
+// Inverse circular and hyperbolic functions of complex numbers, through logarithms.
 #include "mapm_complex.h"
 #include "mapm_functions.h"
+#include "wide_complex.h"
+#include "wide_functions.h"
 
 namespace quindar {
 
 namespace {
 
-struct Complex {
-    MapmNumber re, im;
+using wide::Complex;
+using wide::WideDecimal;
+
+Complex one() {
+    return {WideDecimal(1L), WideDecimal()};
+}
+
+// The places of the square roots: digits + h + 4, h half the integer digits of |z|^2, so
+// that a large argument keeps digits + 4 decimals behind its point.
+struct RootPlaces {
+    long half_margin;
+    int places;
 };
 
-Complex make(const MapmNumber *re, const MapmNumber *im) {
-    return Complex{*re, *im};
+RootPlaces root_places(const Complex &z, int digits) {
+    const long h = wide::exponent_margin(z.re * z.re + z.im * z.im) / 2;
+    return {h, digits + static_cast<int>(h) + 4};
 }
 
-Complex real_value(long value) {
-    Complex z;
-    m_apm_set_long(&z.re, value);
-    m_apm_set_zero(&z.im);
-    return z;
+// For a large argument (h > 3) a sum whose modulus at the root places is 0 or below 1e-3
+// has lost its digits to cancellation: the caller then takes the difference instead.
+bool cancelled(const Complex &sum, const RootPlaces &root) {
+    if (root.half_margin <= 3) return false;
+    const WideDecimal size = wide::modulus(sum, root.places);
+    return size.is_zero() || size.exponent() < -3;
 }
 
-Complex add(const Complex &a, const Complex &b) {
-    Complex r;
-    m_apmc_add(&r.re, &r.im, &a.re, &a.im, &b.re, &b.im);
-    return r;
-}
-
-Complex subtract(const Complex &a, const Complex &b) {
-    Complex r;
-    m_apmc_sub(&r.re, &r.im, &a.re, &a.im, &b.re, &b.im);
-    return r;
-}
-
-// i * z = (-im, re).
-Complex times_i(const Complex &z) {
-    Complex r;
-    m_apm_negate(&r.re, &z.im);
-    r.im = z.re;
-    return r;
-}
-
-Complex square(const Complex &z) {
-    Complex r;
-    m_apmc_sqr(&r.re, &r.im, &z.re, &z.im);
-    return r;
-}
-
-Complex root(const Complex &z, int places) {
-    Complex r;
-    m_apmc_sqrt(&r.re, &r.im, places, &z.re, &z.im);
-    return r;
-}
-
-// Integer digits that a large argument uses up, halved: E(|z|^2) / 2.
-int half_margin(const MapmNumber *ar, const MapmNumber *ai) {
-    MapmNumber first, second, sum;
-    m_apm_multiply(&first, ar, ar);
-    m_apm_multiply(&second, ai, ai);
-    m_apm_add(&sum, &first, &second);
-    const int exponent = m_apm_exponent(&sum);
-    return (exponent > 0 ? exponent : 0) / 2;
-}
-
-// Where the sum nearly cancels for large arguments, the difference is taken instead.
-bool cancels(const Complex &t, int margin, int places) {
-    if (margin <= 3) return false;
-    MapmNumber magnitude;
-    m_apmc_abs(&magnitude, places, &t.re, &t.im);
-    return m_apm_sign(&magnitude) == 0 || m_apm_exponent(&magnitude) < -3;
-}
-
-// p + q, or p - q where the sum nearly cancels for a large argument z. The root inside
-// is taken at digits + E(|z|^2)/2 + 4 places.
-struct LogArgument {
-    LogArgument(const MapmNumber *ar, const MapmNumber *ai, int digits)
-        : margin(half_margin(ar, ai)), wide(digits + margin + 4) {}
-    Complex sum_or_difference(const Complex &p, const Complex &q) const {
-        const Complex t = add(p, q);
-        return cancels(t, margin, wide) ? subtract(p, q) : t;
-    }
-    int margin, wide;
-};
-
-// -(i * ln t) = (arg t, -ln|t|).
-void minus_i_log(M_APM rr, M_APM ri, int digits, const Complex &t) {
-    MapmNumber l_re, l_im;
-    m_apm_set_zero(&l_re);
-    m_apm_set_zero(&l_im);
-    m_apmc_log(&l_re, &l_im, digits, &t.re, &t.im);
-    m_apm_negate(ri, &l_re);
-    *rr = l_im;
-}
-
-void logarithm(M_APM rr, M_APM ri, int digits, const Complex &t) {
-    MapmNumber l_re, l_im;
-    m_apm_set_zero(&l_re);
-    m_apm_set_zero(&l_im);
-    m_apmc_log(&l_re, &l_im, digits, &t.re, &t.im);
-    *rr = l_re;
-    *ri = l_im;
+// ln t at digits, stored as such or as -i ln t. False (results untouched) for t = 0.
+bool store_logarithm(const Complex &t, int digits, bool times_minus_i, M_APM rr, M_APM ri) {
+    const auto logarithm = wide::logarithm(t, digits);
+    if (!logarithm) return false;
+    wide::store(times_minus_i ? wide::negated(wide::times_i(*logarithm)) : *logarithm, rr, ri);
+    return true;
 }
 
 }  // namespace
 
 void m_apmc_arcsin(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai) {
-    const LogArgument argument(ar, ai, digits);
-    const Complex z = make(ar, ai);
-    const Complex u = root(subtract(real_value(1), square(z)), argument.wide);
-    minus_i_log(rr, ri, digits, argument.sum_or_difference(times_i(z), u));
+    if (!wide::finite_operands({ar, ai}, rr, ri)) return;
+    const Complex z = wide::load(ar, ai);
+    const RootPlaces root = root_places(z, digits);
+    const Complex u = wide::square_root(one() - wide::square(z), root.places);
+    const Complex v = wide::times_i(z);
+    Complex t = u + v;
+    if (cancelled(t, root)) t = v - u;
+    store_logarithm(t, digits, true, rr, ri);
 }
 
 void m_apmc_arccos(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai) {
-    const LogArgument argument(ar, ai, digits);
-    const Complex z = make(ar, ai);
-    const Complex u = root(subtract(real_value(1), square(z)), argument.wide);
-    minus_i_log(rr, ri, digits, argument.sum_or_difference(z, times_i(u)));
+    if (!wide::finite_operands({ar, ai}, rr, ri)) return;
+    const Complex z = wide::load(ar, ai);
+    const RootPlaces root = root_places(z, digits);
+    const Complex u = wide::square_root(one() - wide::square(z), root.places);
+    const Complex v = wide::times_i(u);
+    Complex t = v + z;
+    if (cancelled(t, root)) t = z - v;
+    store_logarithm(t, digits, true, rr, ri);
 }
 
 void m_apmc_arcsinh(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai) {
-    if (m_apm_sign(ai) == 0) {
+    if (m_apm_is_finite(ai) && m_apm_sign(ai) == 0) {
         m_apm_arcsinh(rr, digits, ar);
         m_apm_set_zero(ri);
         return;
     }
-    const LogArgument argument(ar, ai, digits);
-    const Complex z = make(ar, ai);
-    const Complex u = root(add(real_value(1), square(z)), argument.wide);
-    logarithm(rr, ri, digits, argument.sum_or_difference(z, u));
+    if (!wide::finite_operands({ar, ai}, rr, ri)) return;
+    const Complex z = wide::load(ar, ai);
+    const RootPlaces root = root_places(z, digits);
+    const Complex u = wide::square_root(wide::square(z) + one(), root.places);
+    Complex t = z + u;
+    if (cancelled(t, root)) t = z - u;
+    store_logarithm(t, digits, false, rr, ri);
 }
 
 void m_apmc_arccosh(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai) {
-    const LogArgument argument(ar, ai, digits);
-    const Complex z = make(ar, ai);
-    const Complex u = root(subtract(square(z), real_value(1)), argument.wide);
-    logarithm(rr, ri, digits, argument.sum_or_difference(z, u));
+    if (!wide::finite_operands({ar, ai}, rr, ri)) return;
+    const Complex z = wide::load(ar, ai);
+    const RootPlaces root = root_places(z, digits);
+    const Complex u = wide::square_root(wide::square(z) - one(), root.places);
+    Complex t = z + u;
+    if (cancelled(t, root)) t = z - u;
+    store_logarithm(t, digits, false, rr, ri);
 }
 
-namespace {
-
-// s = sqrt((1 + w) / (1 - w)) at `digits`; false where 1 - w or s is 0.
-bool root_of_ratio(Complex &s, const Complex &w, int digits) {
-    const Complex numerator = add(real_value(1), w), denominator = subtract(real_value(1), w);
-    Complex q;
-    if (m_apmc_div(&q.re, &q.im, digits, &numerator.re, &numerator.im, &denominator.re,
-                   &denominator.im) != 0)
-        return false;
-    s = root(q, digits);
-    return !m_apmc_is0(&s.re, &s.im);
-}
-
-}  // namespace
-
-// -(i * ln sqrt((1 + iz) / (1 - iz))).
 int m_apmc_arctan(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai) {
-    Complex s;
-    if (!root_of_ratio(s, times_i(make(ar, ai)), digits)) return -1;
-    minus_i_log(rr, ri, digits, s);
-    return 0;
+    if (!wide::finite_operands({ar, ai}, rr, ri)) return 0;
+    const Complex v = wide::times_i(wide::load(ar, ai));
+    const auto q = wide::quotient(one() + v, one() - v, digits);
+    if (!q) return -1;
+    const Complex s = wide::square_root(*q, digits);
+    return store_logarithm(s, digits, true, rr, ri) ? 0 : -1;
 }
 
-// ln sqrt((1 + z) / (1 - z)).
 int m_apmc_arctanh(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai) {
-    Complex s;
-    if (!root_of_ratio(s, make(ar, ai), digits)) return -1;
-    logarithm(rr, ri, digits, s);
-    return 0;
+    if (!wide::finite_operands({ar, ai}, rr, ri)) return 0;
+    const Complex z = wide::load(ar, ai);
+    const auto q = wide::quotient(one() + z, one() - z, digits);
+    if (!q) return -1;
+    const Complex s = wide::square_root(*q, digits);
+    return store_logarithm(s, digits, false, rr, ri) ? 0 : -1;
 }
 
 }  // namespace quindar

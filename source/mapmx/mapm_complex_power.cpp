@@ -1,61 +1,54 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Quindar developers
+#include <algorithm>
+
 #include "mapm_complex.h"
-#include "mapm_functions.h"
+#include "wide_complex.h"
+#include "wide_functions.h"
 
 namespace quindar {
 
 namespace {
 
-// Integer digits a large intermediate uses up; added to the places so the decimals of
-// a result keep their accuracy.
-int exponent_margin(const MapmNumber *value) {
-    const int exponent = m_apm_exponent(value);
-    return exponent > 0 ? exponent : 0;
-}
+using wide::Complex;
+using wide::WideDecimal;
 
-// The logarithm of the radius and the angle of a at `places`, the radius itself at
-// `radius_places`.
-void polar(MapmNumber &log_radius, MapmNumber &angle, int radius_places, int places,
-           const MapmNumber *ar, const MapmNumber *ai) {
-    MapmNumber square_r, square_i, sum, radius;
-    m_apm_multiply(&square_r, ar, ar);
-    m_apm_multiply(&square_i, ai, ai);
-    m_apm_add(&sum, &square_r, &square_i);
-    m_apm_sqrt(&radius, radius_places, &sum);
-    m_apm_log(&log_radius, places, &radius);
-    m_apm_arctan2(&angle, places, ai, ar);
+// A magnitude with more integer digits than this is beyond every decimal value, whatever
+// the phase does to it; more places for its phase would only cost time.
+constexpr long kLargestMargin = 6145;
+
+struct Polar {
+    WideDecimal log_radius;
+    WideDecimal angle;
+};
+
+// ln |a| and arg a at `places`, the radius itself at `radius_places`.
+Polar polar(const Complex &a, int radius_places, int places) {
+    return {wide::log(wide::modulus(a, radius_places), places), wide::arctan2(a.im, a.re, places)};
 }
 
 }  // namespace
 
 int m_apmc_pow(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmNumber *ai,
                const MapmNumber *br, const MapmNumber *bi) {
-    if (m_apmc_is0(ar, ai)) {
-        if (m_apm_sign(br) <= 0) return -1;
+    if (!wide::finite_operands({ar, ai, br, bi}, rr, ri)) return 0;
+    const Complex a = wide::load(ar, ai), b = wide::load(br, bi);
+    if (wide::modulus(a, digits + 10).is_zero()) {
+        if (b.re.sign() <= 0) return -1;
         m_apm_set_zero(rr);
         m_apm_set_zero(ri);
         return 0;
     }
-    MapmNumber log_radius, angle, first, second, exponent, magnitude;
-    polar(log_radius, angle, digits + 10, digits + 2, ar, ai);
-    m_apm_multiply(&first, br, &log_radius);
-    m_apm_multiply(&second, bi, &angle);
-    m_apm_subtract(&exponent, &first, &second);
-    m_apm_exp(&magnitude, digits + 2, &exponent);
+    Polar p = polar(a, digits + 10, digits + 2);
+    const WideDecimal magnitude = wide::exp(b.re * p.log_radius - b.im * p.angle, digits + 2);
 
     // A large magnitude spends digits on its integer part: redo the angle with more.
-    int places = digits + exponent_margin(&magnitude) + 1;
-    if (places > kMapmMaxPlaces) places = kMapmMaxPlaces;
-    polar(log_radius, angle, places, places, ar, ai);
-    MapmNumber phase, cosine, sine;
-    m_apm_multiply(&first, br, &angle);
-    m_apm_multiply(&second, bi, &log_radius);
-    m_apm_add(&phase, &first, &second);
-    m_apm_cos(&cosine, places, &phase);
-    m_apm_sin(&sine, places, &phase);
-    m_apm_multiply(rr, &magnitude, &cosine);
-    m_apm_multiply(ri, &magnitude, &sine);
+    const int places =
+        digits + static_cast<int>(std::min(wide::exponent_margin(magnitude), kLargestMargin)) + 1;
+    p = polar(a, places, places);
+    const WideDecimal phase = b.re * p.angle + b.im * p.log_radius;
+    wide::store({magnitude * wide::cos(phase, places), magnitude * wide::sin(phase, places)}, rr,
+                ri);
     return 0;
 }
 

@@ -2,152 +2,159 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 #include "mapm_functions.h"
 
-#include <mpfr.h>
-
+#include <algorithm>
 #include <cstdlib>
-#include <string>
 
 #include "bid.h"
+#include "binary_bridge.h"
+#include "wide_decimal.h"
 
 namespace quindar {
 
 namespace {
 
-using bid::kCut;
+using wide::BinaryValue;
+using wide::Sensitivity;
+using wide::WideDecimal;
 
-// Enough binary digits to hold any decimal128 value and to keep 34 correct digits
-// through one elementary function with room to spare.
-constexpr mpfr_prec_t kWorkingBits = 256;
-constexpr int kDecimalDigits = 34;
+using BinaryFunction = int (*)(mpfr_ptr, mpfr_srcptr, mpfr_rnd_t);
 
-class BinaryValue {
-public:
-    BinaryValue() { mpfr_init2(value_, kWorkingBits); }
-    ~BinaryValue() { mpfr_clear(value_); }
-    BinaryValue(const BinaryValue &) = delete;
-    BinaryValue &operator=(const BinaryValue &) = delete;
-    mpfr_ptr get() { return value_; }
-
-private:
-    mpfr_t value_;
-};
-
-void to_binary(mpfr_ptr out, const MapmNumber *value) {
-    char text[kMapmTextSize];
-    m_apm_to_string(text, kMapmMaxPlaces, value);
-    mpfr_set_str(out, text, 10, MPFR_RNDN);
-}
-
-// The binary value cut to 34 decimal digits, then rounded at `places`.
-void from_binary(M_APM result, int places, mpfr_srcptr value) {
-    if (mpfr_zero_p(value)) {
-        m_apm_set_zero(result);
-        return;
-    }
-    if (!mpfr_number_p(value)) {
-        m_apm_set_string(result,
-                         mpfr_nan_p(value) ? "nan" : (mpfr_sgn(value) < 0 ? "-inf" : "inf"));
-        return;
-    }
-    mpfr_exp_t exponent = 0;
-    char *digits = mpfr_get_str(nullptr, &exponent, 10, kDecimalDigits, value, MPFR_RNDZ);
-    // mpfr_get_str gives 0.DIGITS times 10^exponent.
-    std::string text = digits;
-    mpfr_free_str(digits);
-    text += "E" + std::to_string(static_cast<long>(exponent) - kDecimalDigits);
-    _IDEC_flags flags = 0;
-    bid::store(result, bid::round_to_places(bid128_from_string(text.data(), kCut, &flags), places));
-}
-
-template <int (*function)(mpfr_ptr, mpfr_srcptr, mpfr_rnd_t)>
-void unary(M_APM result, int places, const MapmNumber *value) {
-    BinaryValue x, y;
-    to_binary(x.get(), value);
+void unary(BinaryFunction function, Sensitivity sensitivity, M_APM result, int places,
+           const MapmNumber *value) {
+    const mpfr_prec_t bits = wide::result_bits(places);
+    BinaryValue x(wide::operand_bits(value, bits, sensitivity)), y(bits);
+    wide::to_binary(x.get(), value);
     function(y.get(), x.get(), MPFR_RNDN);
-    from_binary(result, places, y.get());
+    wide::from_binary(result, places, y.get());
+}
+
+// Beyond these a whole power goes through the binary path: the exact product would
+// grow long, and a result of that many digits cannot be a rounding tie anyway.
+constexpr long kLargestExactExponent = 10000;
+constexpr long kLargestExactDigits = 4000;
+
+// x^n for a whole n, exactly, then rounded once. False when it would be too long.
+bool exact_power(M_APM result, int places, const MapmNumber *x, const MapmNumber *y) {
+    if (!m_apm_is_finite(x) || !m_apm_is_integer(y)) return false;
+    char text[kMapmTextSize];
+    m_apm_to_string(text, kMapmMaxPlaces, y);
+    const double exponent = std::strtod(text, nullptr);
+    if (exponent > kLargestExactExponent || exponent < -kLargestExactExponent) return false;
+    long count = static_cast<long>(exponent < 0 ? -exponent : exponent);
+    WideDecimal base(x);
+    if (base.is_zero() && exponent <= 0) return false;  // 1, or a pole: the binary path
+    if (base.digits() * count > kLargestExactDigits) return false;
+    WideDecimal power(1L);
+    while (count > 0) {
+        if (count % 2 != 0) power = power * base;
+        count /= 2;
+        if (count > 0) base = base * base;
+    }
+    places = std::min(places, kMapmMaxPlaces);
+    if (exponent < 0) {
+        WideDecimal::quotient(WideDecimal(1L), power, places).store(result);
+    } else {
+        power.rounded(places).store(result);
+    }
+    return true;
 }
 
 }  // namespace
 
 void m_apm_sqrt(M_APM result, int places, const MapmNumber *value) {
-    // A negative value has no real root: 0, as for a difference that rounding pushed
-    // just below zero. The decimal library's root is exact to its last digit.
-    if (m_apm_sign(value) < 0) {
-        m_apm_set_zero(result);
-        return;
-    }
+    // The decimal library's square root is exact to its last digit.
     _IDEC_flags flags = 0;
-    const BID_UINT128 root = bid128_sqrt(bid::load(value), kCut, &flags);
+    const BID_UINT128 root = bid128_sqrt(bid::load(value), bid::kCut, &flags);
     bid::store(result, bid::round_to_places(root, places));
 }
 
-void m_apm_log(M_APM result, int places, const MapmNumber *value) {
-    unary<mpfr_log>(result, places, value);
-}
-
 void m_apm_exp(M_APM result, int places, const MapmNumber *value) {
-    unary<mpfr_exp>(result, places, value);
+    unary(mpfr_exp, Sensitivity::absolute, result, places, value);
 }
 
-void m_apm_sin(M_APM result, int places, const MapmNumber *value) {
-    unary<mpfr_sin>(result, places, value);
-}
-
-void m_apm_cos(M_APM result, int places, const MapmNumber *value) {
-    unary<mpfr_cos>(result, places, value);
+void m_apm_log(M_APM result, int places, const MapmNumber *value) {
+    unary(mpfr_log, Sensitivity::relative, result, places, value);
 }
 
 void m_apm_log10(M_APM result, int places, const MapmNumber *value) {
-    unary<mpfr_log10>(result, places, value);
+    unary(mpfr_log10, Sensitivity::relative, result, places, value);
 }
 
-void m_apm_sinh(M_APM result, int places, const MapmNumber *value) {
-    unary<mpfr_sinh>(result, places, value);
+void m_apm_pow(M_APM result, int places, const MapmNumber *x, const MapmNumber *y) {
+    if (exact_power(result, places, x, y)) return;
+    // The result moves by y times the relative error of x and by y ln x times that of y:
+    // each operand takes the other's integer digits on top of its own.
+    const mpfr_prec_t bits = wide::result_bits(places);
+    constexpr mpfr_prec_t kLogarithmBits = 32;
+    BinaryValue bx(wide::operand_bits(x, bits, Sensitivity::relative) +
+                   4 * std::max(0, m_apm_exponent(y))),
+        by(wide::operand_bits(y, bits, Sensitivity::absolute) + kLogarithmBits), power(bits);
+    wide::to_binary(bx.get(), x);
+    wide::to_binary(by.get(), y);
+    mpfr_pow(power.get(), bx.get(), by.get(), MPFR_RNDN);
+    wide::from_binary(result, places, power.get());
 }
 
-void m_apm_cosh(M_APM result, int places, const MapmNumber *value) {
-    unary<mpfr_cosh>(result, places, value);
+void m_apm_sin(M_APM result, int places, const MapmNumber *value) {
+    unary(mpfr_sin, Sensitivity::absolute, result, places, value);
 }
 
-void m_apm_arcsinh(M_APM result, int places, const MapmNumber *value) {
-    unary<mpfr_asinh>(result, places, value);
+void m_apm_cos(M_APM result, int places, const MapmNumber *value) {
+    unary(mpfr_cos, Sensitivity::absolute, result, places, value);
 }
 
-void m_apm_log_10_base_e(M_APM result, int places) {
-    BinaryValue ten, logarithm;
-    mpfr_set_ui(ten.get(), 10, MPFR_RNDN);
-    mpfr_log(logarithm.get(), ten.get(), MPFR_RNDN);
-    from_binary(result, places, logarithm.get());
+void m_apm_tan(M_APM result, int places, const MapmNumber *value) {
+    unary(mpfr_tan, Sensitivity::absolute, result, places, value);
 }
 
-void m_apm_floor(M_APM result, const MapmNumber *value) {
-    _IDEC_flags flags = 0;
-    const BID_UINT128 x = bid128_round_integral_negative(bid::load(value), &flags);
-    if (bid128_isZero(x))
-        m_apm_set_zero(result);
-    else
-        bid::store(result, x);
+void m_apm_arcsin(M_APM result, int places, const MapmNumber *value) {
+    unary(mpfr_asin, Sensitivity::relative, result, places, value);
 }
 
-void m_apm_ceil(M_APM result, const MapmNumber *value) {
-    _IDEC_flags flags = 0;
-    const BID_UINT128 x = bid128_round_integral_positive(bid::load(value), &flags);
-    if (bid128_isZero(x))
-        m_apm_set_zero(result);
-    else
-        bid::store(result, x);
+void m_apm_arccos(M_APM result, int places, const MapmNumber *value) {
+    unary(mpfr_acos, Sensitivity::relative, result, places, value);
+}
+
+void m_apm_arctan(M_APM result, int places, const MapmNumber *value) {
+    unary(mpfr_atan, Sensitivity::relative, result, places, value);
 }
 
 void m_apm_arctan2(M_APM result, int places, const MapmNumber *y, const MapmNumber *x) {
-    BinaryValue by, bx, angle;
-    to_binary(by.get(), y);
-    to_binary(bx.get(), x);
-    if (mpfr_zero_p(by.get()) && mpfr_zero_p(bx.get())) {
+    if (m_apm_sign(y) == 0 && m_apm_sign(x) == 0 && m_apm_is_finite(y) && m_apm_is_finite(x)) {
         m_apm_set_zero(result);
         return;
     }
+    const mpfr_prec_t bits = wide::result_bits(places);
+    BinaryValue by(wide::operand_bits(y, bits, Sensitivity::relative)),
+        bx(wide::operand_bits(x, bits, Sensitivity::relative)), angle(bits);
+    wide::to_binary(by.get(), y);
+    wide::to_binary(bx.get(), x);
     mpfr_atan2(angle.get(), by.get(), bx.get(), MPFR_RNDN);
-    from_binary(result, places, angle.get());
+    wide::from_binary(result, places, angle.get());
+}
+
+void m_apm_sinh(M_APM result, int places, const MapmNumber *value) {
+    unary(mpfr_sinh, Sensitivity::absolute, result, places, value);
+}
+
+void m_apm_cosh(M_APM result, int places, const MapmNumber *value) {
+    unary(mpfr_cosh, Sensitivity::absolute, result, places, value);
+}
+
+void m_apm_tanh(M_APM result, int places, const MapmNumber *value) {
+    unary(mpfr_tanh, Sensitivity::relative, result, places, value);
+}
+
+void m_apm_arcsinh(M_APM result, int places, const MapmNumber *value) {
+    unary(mpfr_asinh, Sensitivity::relative, result, places, value);
+}
+
+void m_apm_arccosh(M_APM result, int places, const MapmNumber *value) {
+    unary(mpfr_acosh, Sensitivity::relative, result, places, value);
+}
+
+void m_apm_arctanh(M_APM result, int places, const MapmNumber *value) {
+    unary(mpfr_atanh, Sensitivity::relative, result, places, value);
 }
 
 }  // namespace quindar
