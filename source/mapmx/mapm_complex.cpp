@@ -3,7 +3,7 @@
 #include "mapm_complex.h"
 
 #include "bid.h"
-#include "exact_division.h"
+#include "wide_decimal.h"
 
 namespace quindar {
 
@@ -45,18 +45,25 @@ int m_apmc_div(M_APM rr, M_APM ri, int digits, const MapmNumber *ar, const MapmN
     const BID_UINT128 denominator =
         bid128_add(bid128_mul(c, c, kCut, &flags), bid128_mul(d, d, kCut, &flags), kCut, &flags);
     const BID_UINT128 minus_a = bid128_negate(a);
-    BID_UINT128 real = bid128_add(bid128_mul(a, c, kCut, &flags), bid128_mul(b, d, kCut, &flags),
-                                  kCut, &flags);
+    BID_UINT128 real =
+        bid128_add(bid128_mul(a, c, kCut, &flags), bid128_mul(b, d, kCut, &flags), kCut, &flags);
     BID_UINT128 imag = bid128_add(bid128_mul(c, b, kCut, &flags),
                                   bid128_mul(d, minus_a, kCut, &flags), kCut, &flags);
-    if (flags & BID_INEXACT_EXCEPTION) {
+    const bool finite =
+        bid128_isFinite(a) && bid128_isFinite(b) && bid128_isFinite(c) && bid128_isFinite(d);
+    if ((flags & BID_INEXACT_EXCEPTION) && finite) {
         // A sum did not fit 34 digits: divide the exact sums instead.
-        real = exact_quotient_of_sums(a, c, b, d, c, c, d, d);
-        imag = exact_quotient_of_sums(c, b, d, minus_a, c, c, d, d);
-    } else {
-        real = bid128_div(real, denominator, kCut, &flags);
-        imag = bid128_div(imag, denominator, kCut, &flags);
+        const wide::WideDecimal wa(ar), wb(ai), wc(br), wd(bi);
+        const wide::WideDecimal exact_denominator = wc * wc + wd * wd;
+        MapmNumber real_part, imag_part;
+        wide::WideDecimal::quotient(wa * wc + wb * wd, exact_denominator, digits).store(&real_part);
+        wide::WideDecimal::quotient(wc * wb - wd * wa, exact_denominator, digits).store(&imag_part);
+        *rr = real_part;
+        *ri = imag_part;
+        return 0;
     }
+    real = bid128_div(real, denominator, kCut, &flags);
+    imag = bid128_div(imag, denominator, kCut, &flags);
     store(rr, round_to_places(real, digits));
     store(ri, round_to_places(imag, digits));
     return 0;
