@@ -4,10 +4,17 @@
 
 namespace quindar::cli {
 
-const char *const kUsage = "Usage: quindar-cli [--enter] [--in-place] [FILE]\n";
+const char *const kUsage =
+    "Usage: quindar-cli [--enter] [--in-place] [FILE]\n"
+    "       quindar-cli --integrate EXPR VAR LOW HIGH [--accuracy A] [--precision N] [FILE]\n"
+    "       quindar-cli --derivative EXPR VAR AT [--order N] [--step H] [--precision N] [FILE]\n"
+    "       quindar-cli --root EXPR VAR LOW HIGH [--precision N] [FILE]\n";
 
 const char *const kHelp =
     "Usage: quindar-cli [--enter] [--in-place] [FILE]\n"
+    "       quindar-cli --integrate EXPR VAR LOW HIGH [--accuracy A] [--precision N] [FILE]\n"
+    "       quindar-cli --derivative EXPR VAR AT [--order N] [--step H] [--precision N] [FILE]\n"
+    "       quindar-cli --root EXPR VAR LOW HIGH [--precision N] [FILE]\n"
     "Computes every line of FILE (standard input when FILE is missing or \"-\") in a Math\n"
     "Editor and prints the resulting text: each answer is written behind its line (\"2+3\"\n"
     "gives \"2+3 = 5\"), an old answer is replaced, comments and \"//\" lines stay.\n"
@@ -17,16 +24,72 @@ const char *const kHelp =
     "  --in-place   write the result back to FILE instead of standard output\n"
     "  -h, --help   show this text\n"
     "\n"
+    "Numeric computations print one value. EXPR is mapped once and solved at each sample;\n"
+    "LOW, HIGH and AT are expressions. With FILE, its lines are computed first, silently,\n"
+    "so its variables and functions are in force.\n"
+    "  --integrate   the definite integral by Romberg's method; --accuracy is relative\n"
+    "                (0.0001 unless given); reversed limits are swapped\n"
+    "  --derivative  the derivative of --order 1, 2 or 3 (1 unless given) at AT, by\n"
+    "                extrapolated central differences from the starting step --step (0.1)\n"
+    "  --root        a root between LOW and HIGH, where EXPR must change sign\n"
+    "  --precision   digits of the value, 1 to 14 (6, or 14 for a root)\n"
+    "\n"
     "A line that fails stays as typed and its error goes to standard error as\n"
     "\"LINE: message\". Exit status: 0 when every line computed, 1 when a line failed,\n"
     "2 on a usage or file error.\n";
 
+namespace {
+
+// The value behind an option that takes one, or null with the reason in error.
+const std::string *OptionValue(const std::vector<std::string> &arguments, std::size_t &at,
+                               std::string &error) {
+    if (at + 1 >= arguments.size()) {
+        error = "\"" + arguments[at] + "\" needs a value";
+        return nullptr;
+    }
+    return &arguments[++at];
+}
+
+std::optional<std::string> *CalculusSetting(CalculusOptions &calculus, const std::string &name) {
+    if (name == "--accuracy") return &calculus.accuracy;
+    if (name == "--order") return &calculus.order;
+    if (name == "--step") return &calculus.step;
+    if (name == "--precision") return &calculus.precision;
+    return nullptr;
+}
+
+}  // namespace
+
 std::optional<Options> ParseOptions(const std::vector<std::string> &arguments, std::string &error) {
     Options options;
-    bool havePath = false;
+    bool &havePath = options.havePath;
     bool optionsEnded = false;
-    for (const std::string &argument : arguments) {
-        if (!optionsEnded && argument == "--") {
+    CalculusOptions calculus;
+    std::vector<std::string> settingsGiven;
+    for (std::size_t at = 0; at < arguments.size(); ++at) {
+        const std::string &argument = arguments[at];
+        CalculusKind kind{};
+        if (const int operands = optionsEnded ? 0 : CalculusOperandCount(argument, kind)) {
+            if (options.calculus) {
+                error = "only one of --integrate, --derivative and --root at a time";
+                return std::nullopt;
+            }
+            if (at + operands >= arguments.size()) {
+                error = "\"" + argument + "\" needs " + std::to_string(operands) + " operands";
+                return std::nullopt;
+            }
+            calculus.kind = kind;
+            calculus.operands.assign(arguments.begin() + static_cast<long>(at) + 1,
+                                     arguments.begin() + static_cast<long>(at) + 1 + operands);
+            at += static_cast<std::size_t>(operands);
+            options.calculus = calculus;
+        } else if (std::optional<std::string> *setting =
+                       optionsEnded ? nullptr : CalculusSetting(calculus, argument)) {
+            const std::string *value = OptionValue(arguments, at, error);
+            if (value == nullptr) return std::nullopt;
+            *setting = *value;
+            settingsGiven.push_back(argument);
+        } else if (!optionsEnded && argument == "--") {
             optionsEnded = true;
         } else if (!optionsEnded && (argument == "--help" || argument == "-h")) {
             options.help = true;
@@ -44,6 +107,19 @@ std::optional<Options> ParseOptions(const std::vector<std::string> &arguments, s
             options.path = argument;
             havePath = true;
         }
+    }
+    if (options.calculus) {
+        // The settings may stand before or after the computation they refine.
+        calculus.kind = options.calculus->kind;
+        calculus.operands = options.calculus->operands;
+        options.calculus = calculus;
+        if (options.inPlace) {
+            error = "--in-place does not go with a numeric computation";
+            return std::nullopt;
+        }
+    } else if (!settingsGiven.empty()) {
+        error = settingsGiven.front() + " needs --integrate, --derivative or --root";
+        return std::nullopt;
     }
     if (options.inPlace && !options.help && options.path == "-") {
         error = "--in-place needs a FILE, not standard input";

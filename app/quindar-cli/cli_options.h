@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "cli_calculus.h"
 #include "text_run.h"
 
 namespace quindar::cli {
@@ -21,6 +22,10 @@ struct Options {
     bool inPlace = false;
     RunKey key = RunKey::F4;
     std::string path = "-";  // "-" is standard input
+    bool havePath = false;
+    // A numeric computation instead of printing the text; the text then only sets up the
+    // engine, and only when FILE is given.
+    std::optional<CalculusOptions> calculus;
 };
 
 // The options, or the reason they are wrong in error.

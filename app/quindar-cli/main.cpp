@@ -8,6 +8,7 @@
 
 #include "cli_files.h"
 #include "cli_options.h"
+#include "parser.h"
 #include "text_run.h"
 
 namespace {
@@ -15,6 +16,31 @@ namespace {
 int Fail(const std::string &message) {
     std::cerr << "quindar-cli: " << message << '\n';
     return 2;
+}
+
+void ReportFailures(const quindar::TextRun &run) {
+    for (const quindar::LineFailure &failure : run.failures)
+        std::cerr << failure.line << ": " << failure.message << '\n';
+}
+
+// A numeric computation on the engine of FILE, when one is given.
+int Compute(const quindar::cli::Options &options) {
+    using namespace quindar;
+    Parser parser("", "");
+    std::string error;
+    if (options.havePath) {
+        if (options->calculus) return Compute(*options);
+        const auto input = cli::ReadInput(options.path, error);
+        if (!input) return Fail(error);
+        ReportFailures(RunText(*input, options.key, parser));
+    }
+    std::string value;
+    if (!cli::RunCalculus(parser, *options.calculus, value, error)) {
+        std::cerr << error << '\n';
+        return 1;
+    }
+    std::cout << value << std::endl;
+    return std::cout ? 0 : Fail("cannot write standard output");
 }
 
 }  // namespace
@@ -28,6 +54,7 @@ int main(int argc, char **argv) {
         std::cout << cli::kHelp;
         return 0;
     }
+    if (options->calculus) return Compute(*options);
     const auto input = cli::ReadInput(options->path, error);
     if (!input) return Fail(error);
 
@@ -38,7 +65,6 @@ int main(int argc, char **argv) {
         std::cout << run.text << std::flush;
         if (!std::cout) return Fail("cannot write standard output");
     }
-    for (const LineFailure &failure : run.failures)
-        std::cerr << failure.line << ": " << failure.message << '\n';
+    ReportFailures(run);
     return run.failures.empty() ? 0 : 1;
 }

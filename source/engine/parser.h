@@ -13,6 +13,7 @@
 #include <string>
 
 #include "complex.h"
+#include "computation_hooks.h"
 #include "dynarray.h"
 #include "function.h"
 #include "mathematics.h"
@@ -243,6 +244,26 @@ public:
                                const complex &c3 = {}, const complex &c4 = {});
     bool check_pos_integers(int fn, const complex &c1, const complex &c2);
 
+    // Numeric methods over a mapped expression in one declared variable. Each sample sets
+    // the variable, solves the map silently and takes the real part.
+    long double RombIntegrate(int map, const char *var, long double low, long double high,
+                              long double accuracy, bool silent);
+    long double Trapazoid(int map, const char *var, long double low, long double high, int level);
+    void PolyInterpolate(long double *xa, long double *ya, int n, long double x, long double *y,
+                         long double *dy);
+    long double Derivative(int map, const char *var, const long double &x, const long double &h,
+                           int order, long double &tolerance, bool silent);
+    bool Slope(int map, const char *var, const long double &x, const long double &step,
+               const long double &h, int order, long double &tolerance, long double &slope,
+               bool silent);
+    bool Root(int map, const char *var, long double x1, long double x2, long double tolerance,
+              int maxIterations, long double &root);
+    long double GetY(int map, const char *var, long double x, long double tolerance,
+                     long double &yHighest, long double &yLowest, bool &isZero);
+    // The application's stop flag and message pump for the loops above; none when the
+    // engine runs alone.
+    void set_computation_hooks(ComputationHooks *hooks);
+
     // Settings read by the list windows, the trigonometric functions and documents.
     bool use_square_brackets = true;
     bool show_incrementals = true;
@@ -342,6 +363,17 @@ private:
     // Relational worker shared by the six comparisons.
     template <class Relation>
     complex relation(bool &chain, const complex &a, const complex &b, Relation holds);
+
+    // Numeric methods.
+    long double sample(int map, const char *var, long double x);
+    bool holds_at_or_below(long double a, long double b);
+    bool holds_below(long double a, long double b);
+    bool stop_requested();
+    bool application_check_stops();
+    bool pump_then_stop_requested();
+    ComputationHooks *computation_hooks = nullptr;
+    // The trapezoid rule's estimate of its last level, refined by the next one.
+    long double trapezoid_estimate = 0.0L;
 
     std::string lib_path, lib_dir, user_lib_path, user_lib_dir;
 

@@ -33,5 +33,8 @@ struct TextRun {
 };
 
 TextRun RunText(std::string_view input, RunKey key);
+// The same on the caller's engine, which keeps the text's variables and functions.
+class Parser;
+TextRun RunText(std::string_view input, RunKey key, Parser &parser);
 
 }  // namespace quindar

@@ -5,7 +5,8 @@
 #   MODE    file | enter | stdin | in-place: compute INPUT and compare with EXPECTED (and
 #           ERRORS, when that file exists); usage: run with ARGS (and ARGS2) and check CODE,
 #           and that
-#           standard output holds STDOUT_HAS or standard error STDERR_HAS
+#           standard output holds STDOUT_HAS or standard error STDERR_HAS, or standard
+#           output is exactly STDOUT_IS; "|" separates several arguments in ARGS
 cmake_minimum_required(VERSION 3.25)
 
 file(REMOVE_RECURSE ${WORK})
@@ -33,6 +34,7 @@ function(same_file actual expected what)
 endfunction()
 
 if(MODE STREQUAL "usage")
+    string(REPLACE "|" ";" ARGS "${ARGS}")
     execute_process(COMMAND ${CLI} ${ARGS} ${ARGS2} OUTPUT_FILE ${out} ERROR_FILE ${err}
         RESULT_VARIABLE code)
     if(NOT code STREQUAL CODE)
@@ -48,6 +50,12 @@ if(MODE STREQUAL "usage")
             endif()
         endif()
     endforeach()
+    if(DEFINED STDOUT_IS)
+        file(READ ${out} text)
+        if(NOT text STREQUAL "${STDOUT_IS}\n")
+            fail("standard output is not \"${STDOUT_IS}\"")
+        endif()
+    endif()
     return()
 endif()
 
