@@ -251,7 +251,10 @@ void MapSolver::append_general_rows(std::vector<MapInstructionRow> &rows) {
                  p.mapper_exception(kTooDeep, p.silent);
                  run.stop = true;
              } else {
+                 // A list function before this one at the same depth has left its values
+                 // there; each call takes only its own, as in the line.
                  ++run.equation.list_level;
+                 if (run.current_list()->count() > 0) run.current_list()->flush();
              }
              return complex{};
          },

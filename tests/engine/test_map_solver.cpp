@@ -87,6 +87,9 @@ TEST_F(MapSolver, DataListsStartEmptyAtEachRun) {
     EXPECT_EQ(parser.solve_equation(parallel, false, true).real, 1.0);
     const int count = map("x + SRESIST[{x, SRESIST[{1,2}], 3}]");
     EXPECT_EQ(solve_at(count, 1).real, 8.0);
+    // Two list functions one after the other at the same depth keep their values apart.
+    const int sequence = map("SRESIST[{1,x}] * SRESIST[{2,3}]");
+    EXPECT_EQ(solve_at(sequence, 1).real, 10.0);
 }
 
 TEST_F(MapSolver, FiveNestedListFunctionsAndNoMore) {
