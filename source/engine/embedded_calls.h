@@ -72,6 +72,35 @@ public:
     static complex call_not(Parser &p, std::ostream &answer);
     static complex call_if(Parser &p, std::ostream &answer);
 
+    // Workers that the handlers and the map solver share. Each repeats the tests of its
+    // handler's fetch that a map cannot have made.
+    static complex _logarithm(Parser &p, const complex &z, const complex &base);
+    static complex _gcd(Parser &p, const complex &a, const complex &b);
+    static complex _lcm(Parser &p, const complex &a, const complex &b);
+    static complex _rtop(Parser &p, const complex &x, const complex &y);
+    static complex _ptor(Parser &p, const complex &r, const complex &angle);
+    // With a null text, the form a map uses: base 10 only, the digits read as a number.
+    static complex _basecon(Parser &p, const complex &number, const complex &base, char *text);
+    static complex _angle(Parser &p, const complex &z);
+    static complex _polar(Parser &p, const complex &magnitude, const complex &angle);
+    static complex _hypot(Parser &p, const complex &a, const complex &b);
+    static complex _cubert(Parser &p, const complex &z);
+    static complex real_part(const complex &z) { return complex{z.real, 0}; }
+    static complex imaginary_part(const complex &z) { return complex{z.imag, 0}; }
+    static complex norm(const complex &z);
+    static complex magnitude(const complex &z);
+    static complex conjugate(const complex &z) { return complex{z.real, -z.imag}; }
+    // True for a logical value (real part exactly 0 or 1, no imaginary part); otherwise
+    // raises message 21 for function fn and gives false.
+    static bool is_logical_or_raise(Parser &p, int fn, const complex &value);
+    // One binary step of AND or OR, as a map chains them.
+    static complex _logical(Parser &p, int fn, const complex &a, const complex &b, bool isAnd);
+    static complex _not(Parser &p, int fn, const complex &value);
+    static complex _if(Parser &p, int fn, const complex &test, const complex &a, const complex &b);
+    // SRESIST and PRESIST of a list.
+    static complex series_resistance(const DynArray<long double, 10> &list);
+    static complex parallel_resistance(Parser &p, const DynArray<long double, 10> &list);
+
 private:
     static int index_of(const char *name);
     static complex logical_chain(Parser &p, std::ostream &answer, const char *name, bool isAnd);

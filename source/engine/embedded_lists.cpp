@@ -21,18 +21,20 @@ bool EmbeddedCalls::fetch_list(Parser &p, std::ostream &answer, DynArray<long do
     return !p.IsAnError();
 }
 
-complex EmbeddedCalls::call_sresist(Parser &p, std::ostream &answer) {
-    DynArray<long double, 10> list;
-    if (!fetch_list(p, answer, list, index_of("SRESIST"))) return complex{};
+complex EmbeddedCalls::series_resistance(const DynArray<long double, 10> &list) {
     long double sum = 0;
     for (int k = 0; k < list.count(); ++k) sum += *list[k];
     return complex{static_cast<double>(sum), 0};
 }
 
-// 1 / (sum of 1/R), each quotient through the decimal division, the sum in double.
-complex EmbeddedCalls::call_presist(Parser &p, std::ostream &answer) {
+complex EmbeddedCalls::call_sresist(Parser &p, std::ostream &answer) {
     DynArray<long double, 10> list;
-    if (!fetch_list(p, answer, list, index_of("PRESIST"))) return complex{};
+    if (!fetch_list(p, answer, list, index_of("SRESIST"))) return complex{};
+    return series_resistance(list);
+}
+
+// 1 / (sum of 1/R), each quotient through the decimal division, the sum in double.
+complex EmbeddedCalls::parallel_resistance(Parser &p, const DynArray<long double, 10> &list) {
     const complex one{1, 0};
     double sum = 0;
     for (int k = 0; k < list.count(); ++k)
@@ -40,13 +42,23 @@ complex EmbeddedCalls::call_presist(Parser &p, std::ostream &answer) {
     return p.complex_div(one, complex{sum, 0});
 }
 
+complex EmbeddedCalls::call_presist(Parser &p, std::ostream &answer) {
+    DynArray<long double, 10> list;
+    if (!fetch_list(p, answer, list, index_of("PRESIST"))) return complex{};
+    return parallel_resistance(p, list);
+}
+
+complex EmbeddedCalls::_hypot(Parser &p, const complex &a, const complex &b) {
+    if (p.check_no_imag_compnts(kMustBeReal, index_of("HYPOT"), a, b)) return complex{};
+    return complex{std::hypot(a.real, b.real), 0};
+}
+
 complex EmbeddedCalls::call_hypot(Parser &p, std::ostream &answer) {
     const int fn = index_of("HYPOT");
     complex a, b;
     p.get_two_pars(answer, a, b, fn);
     p.check_no_other_parameter(kTooMany, fn);
-    if (p.check_no_imag_compnts(kMustBeReal, fn, a, b)) return complex{};
-    return complex{std::hypot(a.real, b.real), 0};
+    return _hypot(p, a, b);
 }
 
 }  // namespace quindar

@@ -217,6 +217,7 @@ void Mathematics::ClearLastError() {
 }
 
 void Mathematics::math_exception(int index) {
+    if (drops_error()) return;
     SetLastError(math_message(index));
     if (!silent) show_message(message_hook, math_message(index), kMathCaption);
     if (!solving_map && recovery_points > 0) {

@@ -105,6 +105,11 @@ protected:
     // Number of eval_exp calls of the owning engine that can take an error now. Outside
     // them an error is only recorded: there is no recovery point to leave for.
     int recovery_points = 0;
+    // A map is being solved: only its first error counts. Once an error has cleared
+    // solving_map, later raises of the same run are dropped, which also keeps them from
+    // jumping to a recovery point the run never set.
+    bool map_run = false;
+    bool drops_error() const { return map_run && (error || !solving_map); }
 
 private:
     // Shared body of the four complex operators.

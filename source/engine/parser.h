@@ -15,6 +15,8 @@
 #include "complex.h"
 #include "computation_hooks.h"
 #include "dynarray.h"
+#include "dynlist.h"
+#include "equation.h"
 #include "function.h"
 #include "mathematics.h"
 #include "message_hook.h"
@@ -42,9 +44,11 @@ enum RelationalCode : char {
 inline constexpr std::size_t kExpressionSize = 1024;
 
 class EmbeddedCalls;
+class MapSolver;
 
 class Parser : public Mathematics {
     friend class EmbeddedCalls;
+    friend class MapSolver;
 
 public:
     Parser(const char *libraryDir, const char *userLibraryDir);
@@ -244,6 +248,21 @@ public:
                                const complex &c3 = {}, const complex &c4 = {});
     bool check_pos_integers(int fn, const complex &c1, const complex &c2);
 
+    // Equation maps. A caller records a map by setting current_equation to a new element of
+    // equations and mapping to true, then evaluating the line once; it then solves the map
+    // as often as it needs, changing variables with set_var_value in between.
+    LinkList<Equation> equations;
+    Equation *current_equation = nullptr;
+    // The map at 1-based position n, or null.
+    Equation *equation_at(int n) const;
+    // Removes the map at 1-based position n; maps behind it move down one place.
+    void delete_equation(int n);
+    // Runs map `map` (1-based; 0 for current_equation). The first error stops the run and
+    // stays readable through IsAnError and GetLastError; the result is then meaningless.
+    complex solve_equation(int map, bool restart, bool silent);
+    // An error of the map solver: stores and shows message `number`, never leaves by a jump.
+    void mapper_exception(int number, bool silentMode);
+
     // Numeric methods over a mapped expression in one declared variable. Each sample sets
     // the variable, solves the map silently and takes the real part.
     long double RombIntegrate(int map, const char *var, long double low, long double high,
@@ -288,6 +307,15 @@ public:
     std::optional<std::string> error_text;
 
 private:
+    // Appends an instruction to the map being recorded; nothing unless mapping.
+    void record(Instruction op, complex value = {}, const char *text = nullptr) {
+        if (mapping && current_equation != nullptr)
+            current_equation->set_instruction(op, value, text);
+    }
+    // The handler of the current call took a data list (the list functions' instructions
+    // differ from their forms with values).
+    bool call_took_list = false;
+
     // Frame.
     void reset();
     void raise(const std::string &text, const char *caption, int number);
@@ -330,6 +358,7 @@ private:
     void atom_number(complex &value);
     void get_scientific_value(long double &value);
     complex compare(char code, bool &chain, const complex &left, const complex &right);
+    static Instruction comparison_instruction(char code);
 
     // Names that later tables answer; until then they find nothing.
     complex call_internal_function(int index, std::ostream &answer);

@@ -22,6 +22,8 @@ void Parser::report_data_file_error(const std::string &text) {
 }
 
 void Parser::get_data(std::ostream &answer, DynArray<long double, 10> &list, int fn) {
+    call_took_list = true;
+    record(Instruction::StartList);
     check_left_brace(kBraceMissing, fn);
     check_no_right_brace(kTwoOrMore, fn);
     // The text up to the first closing brace; at least one character, whatever it is.
@@ -58,6 +60,9 @@ void Parser::get_data(std::ostream &answer, DynArray<long double, 10> &list, int
             SetSolvingMap(false);
             return;
         }
+        // A map reads the file again at each solve.
+        record(Instruction::FileName, {}, text.c_str());
+        record(Instruction::LoadFile);
         prog = const_cast<char *>(after_brace);
     }
     get_token();
@@ -71,6 +76,7 @@ void Parser::get_comline_data(std::ostream &answer, DynArray<long double, 10> &l
         eval_exp1(value, answer);
         if (check_no_imag_compnts(kPointNotReal, fn, value)) return;
         list.add(new long double(value.real));
+        record(Instruction::ListValue);
         if (first) check_no_right_brace(kTwoOrMore, fn);
         first = false;
         check_no_right_bracket(kBracketMisplaced, fn);

@@ -88,11 +88,17 @@ void Parser::declare_function() {
         value += spelling(token, token_type);
         previous_type = token_type;
     }
-    if (find_function(full_name.c_str()) < 0) add_new_function(full_name.c_str(), nullptr);
+    if (find_function(full_name.c_str()) < 0) {
+        add_new_function(full_name.c_str(), nullptr);
+        record(Instruction::AddFunction, {}, full_name.c_str());
+    }
     assignment_made = true;
     find_function(full_name.c_str());
+    record(Instruction::FindFunction, {}, full_name.c_str());
     set_func_value(value.c_str(), nullptr);
+    record(Instruction::SetFunctionBody, {}, value.c_str());
     function_declared = true;
+    record(Instruction::End);
     // The line is done: nothing of it is to be computed.
     throw EvaluationAbort{};
 }

@@ -3,6 +3,7 @@
 // The engine's side of the embedded tables: look-up by name and the call of a handler.
 #include "embedded_calls.h"
 #include "embedded_tables.h"
+#include "map_solver.h"
 #include "parser.h"
 
 namespace quindar {
@@ -13,7 +14,22 @@ complex Parser::call_internal_function(int index, std::ostream &answer) {
         mathlib_exception(29, index, nullptr);  // "not currently available"
         return complex{};
     }
-    return handler(*this, answer);
+    // The call leaves its instruction behind its parameters' code, so the map is postfix;
+    // the form of the call picks the instruction among those of the function.
+    const bool outer_took_list = call_took_list;
+    call_took_list = false;
+    const std::size_t recorded_before =
+        mapping && current_equation != nullptr ? current_equation->instructions.size() : 0;
+    const complex value = handler(*this, answer);
+    if (mapping && current_equation != nullptr) {
+        const bool no_values = current_equation->instructions.size() == recorded_before;
+        if (const MapInstructionRow *row =
+                MapSolver::row_for_call(index, call_took_list, no_values))
+            record(row->op);
+        if (call_took_list) record(Instruction::EndList);
+    }
+    call_took_list = outer_took_list;
+    return value;
 }
 
 int Parser::internal_function(const char *name) const {

@@ -97,6 +97,7 @@ void Parser::evaluate_line(complex &result, std::ostringstream &answer) {
     eval_exp0(result, answer);
     if (token_is(')')) parser_exception(2);
     if (!at_end()) parser_exception(1);
+    record(Instruction::End);
 
     if (answer.tellp() <= 0) {
         if (show_equals) answer << " = ";
@@ -161,6 +162,7 @@ void Parser::FreeMapmValues() {
 }
 
 void Parser::raise(const std::string &text, const char *caption, int number) {
+    if (map_run && (IsAnError() || !solving_map)) return;
     SetLastError(text.c_str(), number);
     if (!silent) show_message(&message_hook_storage, text, caption);
     if (!solving_map && recovery_points > 0) {

@@ -61,6 +61,7 @@ void Parser::eval_exp0(complex &value, std::ostream &answer) {
                 if (at_end() || token_is(',')) {
                     if (auto_declare) {
                         declare_unassigned_variable(saved_token.c_str());
+                        record(Instruction::DeclareVariable, {}, saved_token.c_str());
                         assignment_made = true;
                         answer << "FLAG";
                         return;
@@ -89,14 +90,28 @@ void Parser::eval_exp1(complex &value, std::ostream &answer) {
     bool chain = true;
     eval_exp2(value, answer);
     complex right = value;
+    if (token_is_relational()) record(Instruction::StartComparison);
     while (token_is_relational()) {
         const complex left = right;
         const char code = token[0];
         get_token();
         eval_exp2(right, answer);
         value = compare(code, chain, left, right);
-        if (!token_is_relational()) value = complex{chain ? 1.0 : 0.0, 0.0};
+        record(comparison_instruction(code));
+        if (!token_is_relational()) {
+            value = complex{chain ? 1.0 : 0.0, 0.0};
+            record(Instruction::EndComparison);
+        }
     }
+}
+
+Instruction Parser::comparison_instruction(char code) {
+    static constexpr Instruction kByCode[] = {
+        Instruction::NotEqual,     Instruction::Less,  Instruction::LessEqual, Instruction::Greater,
+        Instruction::GreaterEqual, Instruction::Equal, Instruction::NotEqual,
+    };
+    return code >= kLess && code <= kNotEqual ? kByCode[static_cast<int>(code)]
+                                              : Instruction::NotEqual;
 }
 
 complex Parser::compare(char code, bool &chain, const complex &left, const complex &right) {
@@ -125,6 +140,7 @@ void Parser::eval_exp2(complex &value, std::ostream &answer) {
         complex rhs;
         eval_exp3(rhs, answer);
         value = op == '+' ? complex_add(value, rhs) : complex_sub(value, rhs);
+        record(op == '+' ? Instruction::Add : Instruction::Subtract);
     }
 }
 
@@ -142,12 +158,16 @@ void Parser::eval_exp3(complex &value, std::ostream &answer) {
         if (token_is(')') || at_end()) parser_exception(5);
         complex rhs;
         eval_exp4(rhs, answer);
-        if (op == '*')
+        if (op == '*') {
             value = complex_mult(value, rhs);
-        else if (op == '/')
+            record(Instruction::Multiply);
+        } else if (op == '/') {
             value = complex_div(value, rhs);
-        else
+            record(Instruction::Divide);
+        } else {
             value = modulus(value, rhs);
+            record(Instruction::Modulus);
+        }
     }
 }
 
@@ -159,6 +179,7 @@ void Parser::eval_exp4(complex &value, std::ostream &answer) {
         complex rhs;
         eval_exp5(rhs, answer);
         value = _pow(value, rhs);
+        record(Instruction::Power);
     }
 }
 
@@ -172,11 +193,13 @@ void Parser::eval_exp5(complex &value, std::ostream &answer) {
     if (sign == '-') {
         value.real = -value.real;
         value.imag = -value.imag;
+        record(Instruction::Negate);
     }
     if (token_is('!')) {
         value = _factorial(value);
         get_token();
         if (token_is('(')) implicit_mult = true;
+        record(Instruction::Factorial);
     }
 }
 
@@ -234,6 +257,7 @@ void Parser::atom_name(complex &value, std::ostream &answer) {
         if (!token_is(']')) parser_exception(3);
     } else if (is_constant(token.c_str())) {
         value = complex{static_cast<double>(get_constant_value(token.c_str())), 0.0};
+        record(Instruction::Constant, {}, token.c_str());
     } else {
         if (!is_variable(token.c_str()))
             special_exception(messages::kNotVariableOrConstant, token.c_str());
@@ -241,6 +265,7 @@ void Parser::atom_name(complex &value, std::ostream &answer) {
             special_exception(messages::kVariableLocked, token.c_str());
         if (!var_assigned(token.c_str())) special_exception(messages::kNoValueFound, token.c_str());
         value = get_var_value(token.c_str());
+        record(Instruction::Variable, {}, token.c_str());
     }
     get_token();
     if (token_is('(') || token_type == kName || token_type == kNumber) implicit_mult = true;
@@ -253,10 +278,13 @@ void Parser::atom_number(complex &value) {
             complex inner;
             std::ostringstream unused;
             atom(inner, unused);
-            // Only the real part of the atom behind i counts.
+            // Only the real part of the atom behind i counts. The atom has recorded itself,
+            // and the map forms the same value from it at each solve.
             value = complex{0.0, inner.real};
+            record(Instruction::ImaginaryOf);
         } else {
             value = complex{0.0, 1.0};
+            record(Instruction::Literal, value);
         }
         putback();
         return;
@@ -284,6 +312,7 @@ void Parser::atom_number(complex &value) {
         value = complex{static_cast<double>(number), 0.0};
         putback();
     }
+    record(Instruction::Literal, value);
 }
 
 // The exponent of a scientific literal is applied in decimal text, not by multiplying:

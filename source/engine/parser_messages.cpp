@@ -37,7 +37,25 @@ const char *const kParserErrors[kParserErrorCount] = {
     "Unbalanced function brackets in expression!",
 };
 
+const char *const kMapperErrors[kMapperErrorCount] = {
+    "Complex data point encountered, data must be real!",
+    "Equation mapper is trying to solve an expression that has not been mapped!",
+    "Some algorithms do not support more than 5 recursive calls to functions with data list "
+    "arguments, you are implimenting one of them!",
+    "Then integration algorithm could not converge within the specified accuracy to obtain a "
+    "solution!",
+    "Step size is zero in derivative algorithm!",
+    "Unrecognized or missing command in expression mapping algorithm!",
+    "Complex numbers have been encountered in the slope computation of the differential "
+    "algorithm!",
+    "An error occurred while interpolating between two point values!",
+};
+
 }  // namespace
+
+const char *mapper_error(int number) {
+    return number >= 0 && number < kMapperErrorCount ? kMapperErrors[number] : "";
+}
 
 const char *parser_error(int number) {
     return number >= 0 && number < kParserErrorCount ? kParserErrors[number] : "";

@@ -11,6 +11,13 @@ namespace quindar::messages {
 const char *parser_error(int number);
 inline constexpr int kParserErrorCount = 27;
 
+// Text of map solver error n (0 to 7), or "" for any other number.
+const char *mapper_error(int number);
+inline constexpr int kMapperErrorCount = 8;
+
+inline constexpr const char *kEquationMapperCaption = "Equation Mapper";
+inline constexpr const char *kMapNotDeleted = "Internally mapped equation could not be deleted.";
+
 inline constexpr const char *kParserCaption = "Parser Error";
 inline constexpr const char *kMathLibraryCaption = "MATH LIBRARY ERROR";
 inline constexpr const char *kSolverCaption = "EXPRESSION SOLVER";

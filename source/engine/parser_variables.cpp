@@ -226,14 +226,18 @@ void Parser::declare_variable(complex &value, std::ostream &answer, const char *
     get_token();
     eval_exp1(value, answer);
     declare_unassigned_variable(variable_name.c_str());
+    record(Instruction::DeclareVariable, {}, variable_name.c_str());
     if (!token_is(',')) {
         set_var_value(value, variable_name.c_str());
+        record(Instruction::AssignValue, value, variable_name.c_str());
     } else {
         set_var_lowlimit(value, variable_name.c_str());
+        record(Instruction::AssignLowLimit, value, variable_name.c_str());
         get_token();
         eval_exp1(value, answer);
         if (!token_is(',')) special_exception(messages::kCommaExpected, variable_name.c_str());
         set_var_hilimit(value, variable_name.c_str());
+        record(Instruction::AssignHighLimit, value, variable_name.c_str());
         if (get_var_lowlimit(variable_name.c_str()) == get_var_hilimit(variable_name.c_str()))
             special_exception(messages::kEqualLimits, variable_name.c_str());
         get_token();
@@ -241,6 +245,7 @@ void Parser::declare_variable(complex &value, std::ostream &answer, const char *
         if (value.imag != 0 || !is_integer(value.real))
             special_exception(messages::kPointsNotInteger, variable_name.c_str());
         set_var_numpoints(static_cast<long>(value.real), variable_name.c_str());
+        record(Instruction::AssignPoints, value, variable_name.c_str());
         plain_number = true;
     }
     assignment_made = true;
