@@ -67,16 +67,19 @@ int CalculusOperandCount(const std::string &argument, CalculusKind &kind) {
     return 0;
 }
 
-bool RunCalculus(Parser &parser, const CalculusOptions &options, std::string &out,
-                 std::string &error) {
+int RunCalculus(Parser &parser, const CalculusOptions &options, std::string &out,
+                std::string &error) {
+    constexpr int kBadOption = 2;
     const std::vector<std::string> &operand = options.operands;
     int precision = OptionOf(options.kind).precision;
-    if (!ReadWhole(options.precision, "--precision", 1, 14, precision, error)) return false;
+    if (!ReadWhole(options.precision, "--precision", 1, 14, precision, error)) return kBadOption;
+    if (options.radians) parser.angle_mode = 1;
     calculus::Outcome outcome;
     switch (options.kind) {
         case CalculusKind::Integrate: {
             calculus::IntegralRequest request{operand[0], operand[1], operand[2], operand[3]};
-            if (!ReadNumber(options.accuracy, "--accuracy", request.accuracy, error)) return false;
+            if (!ReadNumber(options.accuracy, "--accuracy", request.accuracy, error))
+                return kBadOption;
             outcome = calculus::Integrate(parser, request);
             break;
         }
@@ -84,7 +87,7 @@ bool RunCalculus(Parser &parser, const CalculusOptions &options, std::string &ou
             calculus::DerivativeRequest request{operand[0], operand[1], operand[2]};
             if (!ReadWhole(options.order, "--order", 1, 3, request.order, error) ||
                 !ReadNumber(options.step, "--step", request.step, error))
-                return false;
+                return kBadOption;
             outcome = calculus::Differentiate(parser, request);
             break;
         }
@@ -96,13 +99,13 @@ bool RunCalculus(Parser &parser, const CalculusOptions &options, std::string &ou
     }
     if (!outcome.ok) {
         error = outcome.error;
-        return false;
+        return 1;
     }
     complex value{static_cast<double>(outcome.value), 0.0};
     std::ostringstream text;
     parser.stream_answer(value, text, precision);
     out = text.str();
-    return true;
+    return 0;
 }
 
 }  // namespace quindar::cli

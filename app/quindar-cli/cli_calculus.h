@@ -19,6 +19,7 @@ struct CalculusOptions {
     CalculusKind kind = CalculusKind::Integrate;
     std::vector<std::string> operands;  // EXPR VAR and the limits or the point
     std::optional<std::string> accuracy, order, step, precision;
+    bool radians = false;
 };
 
 // The option's name ("--integrate") and the number of operands it takes, or 0 when the
@@ -26,8 +27,8 @@ struct CalculusOptions {
 int CalculusOperandCount(const std::string &argument, CalculusKind &kind);
 
 // Runs the computation and writes the value to out, or the reason it failed to error.
-// False on failure.
-bool RunCalculus(Parser &parser, const CalculusOptions &options, std::string &out,
-                 std::string &error);
+// The exit status: 0 done, 1 the computation failed, 2 an option's value is wrong.
+int RunCalculus(Parser &parser, const CalculusOptions &options, std::string &out,
+                std::string &error);
 
 }  // namespace quindar::cli

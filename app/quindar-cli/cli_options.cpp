@@ -6,15 +6,15 @@ namespace quindar::cli {
 
 const char *const kUsage =
     "Usage: quindar-cli [--enter] [--in-place] [FILE]\n"
-    "       quindar-cli --integrate EXPR VAR LOW HIGH [--accuracy A] [--precision N] [FILE]\n"
-    "       quindar-cli --derivative EXPR VAR AT [--order N] [--step H] [--precision N] [FILE]\n"
-    "       quindar-cli --root EXPR VAR LOW HIGH [--precision N] [FILE]\n";
+    "       quindar-cli --integrate EXPR VAR LOW HIGH [--accuracy A] [OPTIONS] [FILE]\n"
+    "       quindar-cli --derivative EXPR VAR AT [--order N] [--step H] [OPTIONS] [FILE]\n"
+    "       quindar-cli --root EXPR VAR LOW HIGH [OPTIONS] [FILE]\n";
 
 const char *const kHelp =
     "Usage: quindar-cli [--enter] [--in-place] [FILE]\n"
-    "       quindar-cli --integrate EXPR VAR LOW HIGH [--accuracy A] [--precision N] [FILE]\n"
-    "       quindar-cli --derivative EXPR VAR AT [--order N] [--step H] [--precision N] [FILE]\n"
-    "       quindar-cli --root EXPR VAR LOW HIGH [--precision N] [FILE]\n"
+    "       quindar-cli --integrate EXPR VAR LOW HIGH [--accuracy A] [OPTIONS] [FILE]\n"
+    "       quindar-cli --derivative EXPR VAR AT [--order N] [--step H] [OPTIONS] [FILE]\n"
+    "       quindar-cli --root EXPR VAR LOW HIGH [OPTIONS] [FILE]\n"
     "Computes every line of FILE (standard input when FILE is missing or \"-\") in a Math\n"
     "Editor and prints the resulting text: each answer is written behind its line (\"2+3\"\n"
     "gives \"2+3 = 5\"), an old answer is replaced, comments and \"//\" lines stay.\n"
@@ -33,6 +33,7 @@ const char *const kHelp =
     "                extrapolated central differences from the starting step --step (0.1)\n"
     "  --root        a root between LOW and HIGH, where EXPR must change sign\n"
     "  --precision   digits of the value, 1 to 14 (6, or 14 for a root)\n"
+    "  --radians     circular functions in radians (degrees unless given)\n"
     "\n"
     "A line that fails stays as typed and its error goes to standard error as\n"
     "\"LINE: message\". Exit status: 0 when every line computed, 1 when a line failed,\n"
@@ -88,6 +89,9 @@ std::optional<Options> ParseOptions(const std::vector<std::string> &arguments, s
             const std::string *value = OptionValue(arguments, at, error);
             if (value == nullptr) return std::nullopt;
             *setting = *value;
+            settingsGiven.push_back(argument);
+        } else if (!optionsEnded && argument == "--radians") {
+            calculus.radians = true;
             settingsGiven.push_back(argument);
         } else if (!optionsEnded && argument == "--") {
             optionsEnded = true;

@@ -29,15 +29,19 @@ int Compute(const quindar::cli::Options &options) {
     Parser parser("", "");
     std::string error;
     if (options.havePath) {
-        if (options->calculus) return Compute(*options);
         const auto input = cli::ReadInput(options.path, error);
         if (!input) return Fail(error);
         ReportFailures(RunText(*input, options.key, parser));
     }
     std::string value;
-    if (!cli::RunCalculus(parser, *options.calculus, value, error)) {
-        std::cerr << error << '\n';
-        return 1;
+    switch (cli::RunCalculus(parser, *options.calculus, value, error)) {
+        case 0:
+            break;
+        case 1:
+            std::cerr << error << '\n';
+            return 1;
+        default:
+            return Fail(error);
     }
     std::cout << value << std::endl;
     return std::cout ? 0 : Fail("cannot write standard output");

@@ -16,7 +16,7 @@
 namespace quindar::calculus {
 namespace {
 
-constexpr double kImaginaryLimit = 1e-14;
+constexpr double kImaginaryTolerance = 1e-14;
 constexpr const char *kCircularFunctions[] = {"SIN",  "COS", "TAN", "ASIN", "ACOS",
                                               "ATAN", "COT", "CSC", "SEC"};
 
@@ -58,7 +58,7 @@ bool EvaluateLimit(Parser &parser, const std::string &text, const std::string &v
         parser.ClearLastError();
         return false;
     }
-    if (parser.real_abs(result.imag) > kImaginaryLimit) {
+    if (parser.real_abs(result.imag) > kImaginaryTolerance) {
         error = message(imaginaryMessage);
         return false;
     }
@@ -144,7 +144,7 @@ Outcome Differentiate(Parser &parser, const DerivativeRequest &request) {
     if (parser.IsAnError()) {
         std::ostringstream point;
         complex atValue{static_cast<double>(at), 0.0};
-        parser.stream_variable(atValue, point, -1);
+        parser.stream_variable(atValue, point, 14);
         const int failed = kFirstDifferentialFailed + std::clamp(request.order, 1, 3) - 1;
         return Failure(Format(message(failed), request.variable, point.str(), TakeError(parser)));
     }

@@ -78,7 +78,7 @@ TEST_F(CalculusRuns, IntegrationFailuresSayWhy) {
         {{"q^2", "w", "0", "1"},
          "q^2 is not a function of w and can not be integrated with "
          "respect to it."},
-        {{"1/x", "x", "0", "1"}, "Division by zero error!"},
+        {{"1/x", "x", "0", "1"}, "Division By Zero Encountered!"},
         {{"x*k", "x", "0", "1"},
          "' k ' can not be identified as a variable or a constant! You may either "
          "integrate with repsect to this variable, or you must assign this variable a value."},
@@ -129,7 +129,7 @@ TEST_F(CalculusRuns, DerivativesAndTheirFailures) {
 TEST_F(CalculusRuns, RootsAndMissingBrackets) {
     Outcome outcome = FindRoot(parser, {"x^2-2", "x", "0", "2"});
     ASSERT_TRUE(outcome.ok) << outcome.error;
-    EXPECT_NEAR(static_cast<double>(outcome.value), std::sqrt(2.0), 1e-14);
+    EXPECT_NEAR(static_cast<double>(outcome.value), std::sqrt(2.0), 1e-13);
     outcome = FindRoot(parser, {"x^2+1", "x", "-1", "1"});
     EXPECT_FALSE(outcome.ok);
     EXPECT_EQ(outcome.error,
