@@ -24,4 +24,7 @@ if(QUINDAR_BUILD_TESTS)
 endif()
 if(QUINDAR_BUILD_BENCHMARKS)
     find_package(benchmark REQUIRED)
+    # A double-precision expression library, the yardstick of the map benchmark.
+    find_package(PkgConfig REQUIRED)
+    pkg_check_modules(MUPARSER REQUIRED IMPORTED_TARGET muparser)
 endif()

@@ -6,7 +6,7 @@ set -euo pipefail
 packages=(
     g++ cmake ninja-build pkg-config
     libintelrdfpmath-dev libmpfr-dev libgmp-dev
-    libgtest-dev libbenchmark-dev
+    libgtest-dev libbenchmark-dev libmuparser-dev
 )
 
 missing=()

@@ -72,6 +72,10 @@ public:
     static void SetMapmValue(const double &value, M_APM target);
     // A result of the decimal layer back: text with 15 digits, read as long double.
     static long double GetMapmValue(const MapmNumber *value);
+    // The same two through their texts; the forms above reach the same values from the
+    // digits wherever integers can, and take these for the rest.
+    static void SetMapmValueByText(const long double &value, M_APM target);
+    static long double GetMapmValueByText(const MapmNumber *value);
     // Text to long double in the classic locale, as strtold reads it: a value beyond the
     // range becomes infinite, one below it 0.
     static long double _atold(const char *text);

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstring>
 
+#include "decimal_passage.h"
 #include "mapm_complex.h"
 #include "mathematics.h"
 
@@ -21,6 +22,20 @@ constexpr int kOperandDigits = 14;
 }  // namespace
 
 void Mathematics::SetMapmValue(const long double &value, M_APM target) {
+    bool negative = false;
+    std::uint64_t coefficient = 0;
+    int exponent = 0;
+    // Every operand of the language is a double; its digits come without text.
+    const auto narrow = static_cast<double>(value);
+    if (narrow == value &&
+        decimal_passage::operand_digits(narrow, negative, coefficient, exponent)) {
+        m_apm_set_decimal(target, negative, coefficient, exponent);
+        return;
+    }
+    SetMapmValueByText(value, target);
+}
+
+void Mathematics::SetMapmValueByText(const long double &value, M_APM target) {
     char text[64];
     const auto written = std::to_chars(text, text + sizeof text - 1, value,
                                        std::chars_format::general, kOperandDigits);
@@ -34,6 +49,17 @@ void Mathematics::SetMapmValue(const double &value, M_APM target) {
 }
 
 long double Mathematics::GetMapmValue(const MapmNumber *value) {
+    bool negative = false;
+    std::uint64_t coefficient = 0;
+    int exponent = 0;
+    long double result = 0;
+    if (m_apm_rounded_parts(value, kPlaces, negative, coefficient, exponent) &&
+        decimal_passage::read_digits(negative, coefficient, exponent, result))
+        return result;
+    return GetMapmValueByText(value);
+}
+
+long double Mathematics::GetMapmValueByText(const MapmNumber *value) {
     char text[kMapmTextSize];
     m_apm_to_string(text, kPlaces, value);
     return _atold(text);

@@ -21,9 +21,13 @@ using bid::store;
 using bid::kCut;
 using bid::round_to_places;
 
-BID_UINT128 zero() { return bid128_from_int32(0); }
+BID_UINT128 zero() {
+    return bid128_from_int32(0);
+}
 
-bool is_special(const BID_UINT128 &x) { return !bid128_isFinite(x); }
+bool is_special(const BID_UINT128 &x) {
+    return !bid128_isFinite(x);
+}
 
 // Writes the decimal digits of a coefficient, most significant first.
 int coefficient_digits(unsigned __int128 coefficient, char *out) {
@@ -52,12 +56,38 @@ M_APM m_apm_init() {
     return value;
 }
 
-void m_apm_free(M_APM value) { delete value; }
+void m_apm_free(M_APM value) {
+    delete value;
+}
 
-void m_apm_set_zero(M_APM result) { store(result, zero()); }
+void m_apm_set_zero(M_APM result) {
+    store(result, zero());
+}
 
 void m_apm_set_long(M_APM result, long value) {
     store(result, bid128_from_int64(static_cast<BID_SINT64>(value)));
+}
+
+void m_apm_set_decimal(M_APM result, bool negative, std::uint64_t coefficient, int exponent) {
+    // The canonical encoding with the coefficient in the low 113 bits, as parsing makes it.
+    constexpr int kExponentBias = 6176;
+    BID_UINT128 x;
+    x.w[0] = coefficient;
+    x.w[1] = (negative ? 0x8000000000000000ull : 0) |
+             (static_cast<std::uint64_t>(exponent + kExponentBias) << 49);
+    store(result, x);
+}
+
+bool m_apm_rounded_parts(const MapmNumber *value, int places, bool &negative,
+                         std::uint64_t &coefficient, int &exponent) {
+    if (places < 0) places = 0;
+    if (places > kMapmMaxPlaces) places = kMapmMaxPlaces;
+    const bid::Parts parts = bid::decompose(round_to_places(load(value), places));
+    if (!parts.finite || parts.coefficient > UINT64_MAX) return false;
+    negative = parts.negative && parts.coefficient != 0;
+    coefficient = static_cast<std::uint64_t>(parts.coefficient);
+    exponent = parts.coefficient == 0 ? 0 : parts.exponent;
+    return true;
 }
 
 void m_apm_copy(M_APM result, const MapmNumber *value) {
@@ -149,7 +179,9 @@ int m_apm_sign(const MapmNumber *value) {
     return bid128_isSigned(x) ? -1 : 1;
 }
 
-bool m_apm_is_finite(const MapmNumber *value) { return bid128_isFinite(load(value)) != 0; }
+bool m_apm_is_finite(const MapmNumber *value) {
+    return bid128_isFinite(load(value)) != 0;
+}
 
 bool m_apm_is_integer(const MapmNumber *value) {
     _IDEC_flags flags = 0;

@@ -36,6 +36,14 @@ void m_apm_set_long(M_APM result, long value);
 void m_apm_set_zero(M_APM result);
 void m_apm_copy(M_APM result, const MapmNumber *value);
 
+// The value (-1)^negative * coefficient * 10^exponent, encoded as reading its text gives it
+// (coefficient below 10^19, exponent within the format's range).
+void m_apm_set_decimal(M_APM result, bool negative, std::uint64_t coefficient, int exponent);
+// The value rounded as m_apm_to_string rounds it, as sign, coefficient and exponent: the
+// digits of that text without the text. False for infinities and NaN.
+bool m_apm_rounded_parts(const MapmNumber *value, int places, bool &negative,
+                         std::uint64_t &coefficient, int &exponent);
+
 // Scientific text with `places` decimals behind the point, rounded ties away from
 // zero: "3.00000000000000E-1", "-1.00000000000000E+2", "0.00000000000000E+0".
 void m_apm_to_string(char *text, int places, const MapmNumber *value);

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Quindar developers
+// Equation maps: recording a graph's expression once, solving it at 100,000 points, the
+// same points through the line, and a double-precision expression library as a yardstick.
+#include <benchmark/benchmark.h>
+#include <muParser.h>
+
+#include "parser.h"
+
+namespace {
+
+using quindar::complex;
+
+constexpr int kPoints = 100000;
+constexpr const char *kLines[] = {
+    "SIN[x]*x^2 + 3*x - 1/x",
+    "SQRT[x^2+1]/(x+2) + EXP[-x/10]",
+    "x*x - 2*x + 1",
+};
+constexpr const char *kDoubleLines[] = {
+    "sin(x)*x^2 + 3*x - 1/x",
+    "sqrt(x^2+1)/(x+2) + exp(-x/10)",
+    "x*x - 2*x + 1",
+};
+
+double point(int k) {
+    return 0.05 + 10.0 * k / kPoints;
+}
+
+int record(quindar::Parser &parser, const char *line) {
+    parser.current_equation = parser.equations.add();
+    parser.ClearLastError();
+    parser.mapping = true;
+    const int number = parser.equations.count();
+    parser.eval_exp(line, true, true);
+    return number;
+}
+
+void BM_record_map(benchmark::State &state) {
+    quindar::Parser parser("", "");
+    parser.eval_exp("x = 1", true, false);
+    for (auto _ : state) parser.delete_equation(record(parser, kLines[state.range(0)]));
+}
+BENCHMARK(BM_record_map)->DenseRange(0, 2);
+
+// One iteration solves the map at every point, as a graph of 100,000 points does.
+void BM_solve_map(benchmark::State &state) {
+    quindar::Parser parser("", "");
+    parser.eval_exp("x = 1", true, false);
+    const int map = record(parser, kLines[state.range(0)]);
+    double sum = 0;
+    for (auto _ : state) {
+        for (int k = 0; k < kPoints; ++k) {
+            parser.set_var_value(complex{point(k), 0}, "x");
+            sum += parser.solve_equation(map, false, true).real;
+        }
+    }
+    benchmark::DoNotOptimize(sum);
+    state.counters["points/s"] = benchmark::Counter(static_cast<double>(kPoints),
+                                                    benchmark::Counter::kIsIterationInvariantRate);
+}
+BENCHMARK(BM_solve_map)->DenseRange(0, 2)->Unit(benchmark::kMillisecond);
+
+// The slow road: the line read again at each point (a thousandth of the points).
+void BM_eval_line(benchmark::State &state) {
+    quindar::Parser parser("", "");
+    parser.eval_exp("x = 1", true, false);
+    double sum = 0;
+    for (auto _ : state) {
+        for (int k = 0; k < kPoints; k += 1000) {
+            parser.set_var_value(complex{point(k), 0}, "x");
+            complex value;
+            parser.eval_exp(kLines[state.range(0)], value, true, false);
+            sum += value.real;
+        }
+    }
+    benchmark::DoNotOptimize(sum);
+    state.counters["points/s"] =
+        benchmark::Counter(kPoints / 1000.0, benchmark::Counter::kIsIterationInvariantRate);
+}
+BENCHMARK(BM_eval_line)->DenseRange(0, 2)->Unit(benchmark::kMillisecond);
+
+void BM_muparser(benchmark::State &state) {
+    mu::Parser parser;
+    double x = 1;
+    parser.DefineVar("x", &x);
+    parser.SetExpr(kDoubleLines[state.range(0)]);
+    double sum = 0;
+    for (auto _ : state) {
+        for (int k = 0; k < kPoints; ++k) {
+            x = point(k);
+            sum += parser.Eval();
+        }
+    }
+    benchmark::DoNotOptimize(sum);
+    state.counters["points/s"] = benchmark::Counter(static_cast<double>(kPoints),
+                                                    benchmark::Counter::kIsIterationInvariantRate);
+}
+BENCHMARK(BM_muparser)->DenseRange(0, 2)->Unit(benchmark::kMillisecond);
+
+}  // namespace
