@@ -31,7 +31,7 @@ int main(int argc, char **argv) {
     const auto input = cli::ReadInput(options->path, error);
     if (!input) return Fail(error);
 
-    const TextRun run = RunText(*input, options->key);
+    const TextRun run = RunText(*input, options->key, cli::LibraryFolder());
     if (options->inPlace) {
         if (!cli::ReplaceFile(options->path, run.text, error)) return Fail(error);
     } else {

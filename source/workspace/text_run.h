@@ -32,6 +32,8 @@ struct TextRun {
     std::vector<LineFailure> failures;
 };
 
-TextRun RunText(std::string_view input, RunKey key);
+// libraryDir is the folder of the function library and its data files, ending in its
+// separator; empty for none.
+TextRun RunText(std::string_view input, RunKey key, const std::string &libraryDir = "");
 
 }  // namespace quindar
