@@ -26,8 +26,7 @@ const char *const kDeviateMessages[] = {
     "The maximum number of iterations have been exceeded in the betav function.",
     "The shape parameter Alpha must be greater than 0 in the betadev function.",
     "The shape parameter Beta must be greater than 0 in the betadev function.",
-    "The Random Deviate Could Not Be Drawn Within 10000000 Trials, The Parameters Are Too "
-    "Extreme.",
+    "The Random Deviate Could Not Be Drawn, Its Parameters Make Acceptance Too Rare.",
 };
 
 constexpr const char *kDeviateCaption = "Deviate Error";
@@ -122,7 +121,7 @@ void Deviates::ClearLastError() {
 }
 
 bool Deviates::another_trial(long &trials) {
-    if (++trials <= kMaxTrials) return true;
+    if (++trials <= max_trials) return true;
     exception(13);
     return false;
 }

@@ -67,7 +67,7 @@ public:
 
     // A rejection loop that has not accepted after this many trials gives up with a message
     // instead of hanging on parameters that make acceptance all but impossible.
-    static constexpr long kMaxTrials = 10'000'000;
+    long max_trials = 1'000'000;
 
 protected:
     Mathematics deviate_math;

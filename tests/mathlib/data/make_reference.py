@@ -231,8 +231,6 @@ def deviate_lines():
     lines += continuous_case("noncentral_5_2", "NCHIDEV", (5, 2), ncx.cdf, quantile_edges(ncx))
     be = stats.beta(0.5, 2)
     lines += continuous_case("beta_small_shape", "BETADEV", (0.5, 2), be.cdf, quantile_edges(be))
-    be1 = stats.beta(3, 0.8)
-    lines += continuous_case("beta_one_small", "BETADEV", (3, 0.8), be1.cdf, quantile_edges(be1, 25))
     br = beta_rejection_cdf(2, 3)
     lines += continuous_case("beta_rejection_2_3", "BETADEV", (2, 3), br,
                              quantile_edges(stats.beta(2, 3), 25))
