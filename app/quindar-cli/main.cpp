@@ -26,7 +26,8 @@ void ReportFailures(const quindar::TextRun &run) {
 // A numeric computation on the engine of FILE, when one is given.
 int Compute(const quindar::cli::Options &options) {
     using namespace quindar;
-    Parser parser("", "");
+    const std::string library = cli::LibraryFolder();
+    Parser parser(library.c_str(), library.c_str());
     std::string error;
     if (options.havePath) {
         const auto input = cli::ReadInput(options.path, error);
@@ -62,7 +63,7 @@ int main(int argc, char **argv) {
     const auto input = cli::ReadInput(options->path, error);
     if (!input) return Fail(error);
 
-    const TextRun run = RunText(*input, options->key);
+    const TextRun run = RunText(*input, options->key, cli::LibraryFolder());
     if (options->inPlace) {
         if (!cli::ReplaceFile(options->path, run.text, error)) return Fail(error);
     } else {

@@ -9,6 +9,7 @@
 
 #include "complex.h"
 #include "dynarray.h"
+#include "statistics.h"
 
 namespace quindar {
 
@@ -66,6 +67,53 @@ public:
     // Electrical functions over a data list.
     static complex call_sresist(Parser &p, std::ostream &answer);
     static complex call_presist(Parser &p, std::ostream &answer);
+    // Statistics over a data list or a normal distribution.
+    static complex call_mean(Parser &p, std::ostream &answer);
+    static complex call_gmean(Parser &p, std::ostream &answer);
+    static complex call_hmean(Parser &p, std::ostream &answer);
+    static complex call_median(Parser &p, std::ostream &answer);
+    static complex call_mode(Parser &p, std::ostream &answer);
+    static complex call_min(Parser &p, std::ostream &answer);
+    static complex call_max(Parser &p, std::ostream &answer);
+    static complex call_sumx(Parser &p, std::ostream &answer);
+    static complex call_sumxsq(Parser &p, std::ostream &answer);
+    static complex call_sumdev(Parser &p, std::ostream &answer);
+    static complex call_avgdev(Parser &p, std::ostream &answer);
+    static complex call_sumdevsq(Parser &p, std::ostream &answer);
+    static complex call_range(Parser &p, std::ostream &answer);
+    static complex call_count(Parser &p, std::ostream &answer);
+    static complex call_rank(Parser &p, std::ostream &answer);
+    static complex call_svariance(Parser &p, std::ostream &answer);
+    static complex call_pvariance(Parser &p, std::ostream &answer);
+    static complex call_sstdev(Parser &p, std::ostream &answer);
+    static complex call_pstdev(Parser &p, std::ostream &answer);
+    static complex call_normdis(Parser &p, std::ostream &answer);
+    static complex call_normprob(Parser &p, std::ostream &answer);
+    static complex call_normx(Parser &p, std::ostream &answer);
+    static complex call_zscore(Parser &p, std::ostream &answer);
+    static complex call_skew(Parser &p, std::ostream &answer);
+    static complex call_kurt(Parser &p, std::ostream &answer);
+    static complex call_percentile(Parser &p, std::ostream &answer);
+    static complex call_loquartile(Parser &p, std::ostream &answer);
+    static complex call_upquartile(Parser &p, std::ostream &answer);
+    static complex call_binoco(Parser &p, std::ostream &answer);
+    static complex call_permutate(Parser &p, std::ostream &answer);
+    static complex call_wsnorm(Parser &p, std::ostream &answer);
+    // Random deviates.
+    static complex call_unidev(Parser &p, std::ostream &answer);
+    static complex call_nordev(Parser &p, std::ostream &answer);
+    static complex call_expdev(Parser &p, std::ostream &answer);
+    static complex call_raydev(Parser &p, std::ostream &answer);
+    static complex call_berdev(Parser &p, std::ostream &answer);
+    static complex call_betadev(Parser &p, std::ostream &answer);
+    static complex call_bnldev(Parser &p, std::ostream &answer);
+    static complex call_caudev(Parser &p, std::ostream &answer);
+    static complex call_chidev(Parser &p, std::ostream &answer);
+    static complex call_dexpdev(Parser &p, std::ostream &answer);
+    static complex call_fdev(Parser &p, std::ostream &answer);
+    static complex call_gamdev(Parser &p, std::ostream &answer);
+    static complex call_logdev(Parser &p, std::ostream &answer);
+    static complex call_nchidev(Parser &p, std::ostream &answer);
     // Logical functions.
     static complex call_and(Parser &p, std::ostream &answer);
     static complex call_or(Parser &p, std::ostream &answer);
@@ -110,6 +158,21 @@ private:
     // The brace argument of a list function, closed by its bracket.
     static bool fetch_list(Parser &p, std::ostream &answer, DynArray<long double, 10> &list,
                            int fn);
+    // A statistic of the list alone, and of the list with one more real value after it.
+    using ListStatistic = long double (*)(Statistics &s, DataList &list);
+    static complex list_statistic(Parser &p, std::ostream &answer, const char *name,
+                                  ListStatistic compute);
+    using ListValueStatistic = long double (*)(Statistics &s, DataList &list, long double v);
+    static complex list_value_statistic(Parser &p, std::ostream &answer, const char *name,
+                                        ListValueStatistic compute);
+    // The quartiles: the list without its closing bracket test, which the caller makes.
+    static complex quartile(Parser &p, std::ostream &answer, const char *name, long double p100);
+    // The list form's opening: the list, then the comma before the values that follow it.
+    static bool fetch_list_and_comma(Parser &p, std::ostream &answer, DataList &list, int fn);
+    // Deviates with a form without parameters: the defaults when the call is empty.
+    static bool fetch_or_default(Parser &p, std::ostream &answer, complex &a, complex &b, int fn);
+    static bool fetch_two_checked(Parser &p, std::ostream &answer, complex &a, complex &b, int fn);
+    static bool fetch_one_checked(Parser &p, std::ostream &answer, complex &a, int fn);
 };
 
 }  // namespace quindar

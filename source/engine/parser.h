@@ -21,6 +21,7 @@
 #include "mathematics.h"
 #include "message_hook.h"
 #include "precform.h"
+#include "statistics.h"
 #include "variable.h"
 
 namespace quindar {
@@ -46,7 +47,8 @@ inline constexpr std::size_t kExpressionSize = 1024;
 class EmbeddedCalls;
 class MapSolver;
 
-class Parser : public Mathematics {
+// The statistics and random deviates come with the Statistics base.
+class Parser : public Statistics, public Mathematics {
     friend class EmbeddedCalls;
     friend class MapSolver;
 

@@ -16,13 +16,15 @@
 namespace quindar {
 
 Parser::Parser(const char *libraryDir, const char *userLibraryDir)
-    : answer_format(std::make_unique<PrecformType>()),
+    : Statistics(libraryDir),
+      answer_format(std::make_unique<PrecformType>()),
       variable_format(std::make_unique<PrecformType>()) {
     lib_dir = libraryDir ? libraryDir : "";
     user_lib_dir = userLibraryDir ? userLibraryDir : "";
     // The folder texts end in their own separator.
     lib_path = lib_dir + "Quindar.lib";
     user_lib_path = user_lib_dir + "QuindarUser.lib";
+    link_engine({&message_hook_storage, &recovery_points});
 }
 
 Parser::~Parser() {
@@ -118,19 +120,23 @@ void Parser::reset() {
 }
 
 bool Parser::IsAnError() const {
-    return error || Mathematics::error;
+    return error || Statistics::error || Mathematics::error || Deviates::error;
 }
 
 const char *Parser::GetLastError() const {
     if (error_text) return error_text->c_str();
-    return Mathematics::GetLastError();
+    if (const char *text = Statistics::GetLastError()) return text;
+    if (const char *text = Mathematics::GetLastError()) return text;
+    return Deviates::GetLastError();
 }
 
 void Parser::ClearLastError() {
     error = false;
     error_number = -1;
     error_text.reset();
+    Statistics::ClearLastError();
     Mathematics::ClearLastError();
+    Deviates::ClearLastError();
 }
 
 void Parser::SetLastError(const char *text, int number) {
@@ -144,12 +150,16 @@ void Parser::SetLastError(const char *text, int number) {
 
 void Parser::SetSilentMode(bool silentMode) {
     silent = silentMode;
+    Statistics::silent = silentMode;
     Mathematics::silent = silentMode;
+    Deviates::silent = silentMode;
 }
 
 void Parser::SetSolvingMap(bool solving) {
     solving_map = solving;
+    Statistics::solving_map = solving;
     Mathematics::solving_map = solving;
+    Deviates::solving_map = solving;
 }
 
 void Parser::InitMapmValues() {

@@ -59,8 +59,8 @@ std::string WithLineFeeds(const std::string &text) {
 
 }  // namespace
 
-TextRun RunText(std::string_view input, RunKey key) {
-    Parser parser("", "");
+TextRun RunText(std::string_view input, RunKey key, const std::string &libraryDir) {
+    Parser parser(libraryDir.c_str(), libraryDir.c_str());
     return RunText(input, key, parser);
 }
 

@@ -32,7 +32,9 @@ struct TextRun {
     std::vector<LineFailure> failures;
 };
 
-TextRun RunText(std::string_view input, RunKey key);
+// libraryDir is the folder of the function library and its data files, ending in its
+// separator; empty for none.
+TextRun RunText(std::string_view input, RunKey key, const std::string &libraryDir = "");
 // The same on the caller's engine, which keeps the text's variables and functions.
 class Parser;
 TextRun RunText(std::string_view input, RunKey key, Parser &parser);

@@ -53,7 +53,8 @@ TEST(EmbeddedCalls, ParameterChecks) {
         {"GCD[2i,5]", "The parameters for GCD function call must be real numbers!"},
         {"REAL[2 3]", "Brackets of type [ or ] expected for function call!"},
         {"POW[2,3 4]", "Brackets of type [ or ] expected for function call!"},
-        {"NORDIST[1,2]", "Sorry, the function \"NORDIST\" is not currently available!"},
+        {"NORDIST[1,2]", "Three parameters required in NORDIST function call!"},
+        {"NORPROB[1,2,3]", "Four parameters required in NORPROB function call!"},
     };
     check_lines(table);
 }

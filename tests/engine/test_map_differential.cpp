@@ -89,7 +89,11 @@ private:
             "TAN",  "SINH", "COSH",  "TANH", "ASIN",   "ACOS",  "ATAN",  "ASINH", "ACOSH", "ATANH"};
         static const std::vector<std::string> two = {"LOG", "POW",   "REM", "GCD",
                                                      "LCM", "HYPOT", "PTOC"};
-        switch (pick(8)) {
+        switch (pick(10)) {
+            case 6:
+                return statistic(depth);
+            case 7:
+                return normal_or_choice(depth);
             case 0: {
                 std::string text = pick_of({"AND[", "OR["}) + comparison(depth);
                 const int more = 1 + pick(2);
@@ -119,6 +123,44 @@ private:
                 return one[pick(static_cast<int>(one.size()))] + (square ? "[" : "(") +
                        expression(depth) + (square ? "]" : ")");
             }
+        }
+    }
+
+    // A list in braces of real values (a complex entry fails differently in a map).
+    std::string real_list(int depth) {
+        std::string text = "{REAL[" + expression(depth) + "]";
+        const int more = 1 + pick(5);
+        for (int k = 0; k < more; ++k)
+            text += "," +
+                    pick_of({"2", "REAL[x]", "REAL[y]", "-1.5", "REAL[" + expression(depth) + "]"});
+        return text + "}";
+    }
+
+    std::string statistic(int depth) {
+        static const std::vector<std::string> of_list = {
+            "MEAN",   "GMEAN",  "HMEAN",  "MEDIAN",   "MODE",   "MIN",   "MAX",  "SUMX",
+            "SUMXSQ", "SUMDEV", "AVGDEV", "SUMDEVSQ", "RANGE",  "COUNT", "SVAR", "PVAR",
+            "SSTDEV", "PSTDEV", "SKEW",   "KURT",     "LQRTLE", "UQRTLE"};
+        if (pick(4) == 0)
+            return pick_of({"RANK[", "PRCTLE[", "ZSCORE[", "NORMX["}) + real_list(depth) + "," +
+                   expression(depth) + "]";
+        return of_list[pick(static_cast<int>(of_list.size()))] + "[" + real_list(depth) + "]";
+    }
+
+    std::string normal_or_choice(int depth) {
+        switch (pick(4)) {
+            case 0:
+                return "NORDIST[" + expression(depth) + "," + expression(depth) + "," +
+                       expression(depth) + "]";
+            case 1:
+                return "NORPROB[" + expression(depth) + "," + expression(depth) + "," +
+                       expression(depth) + "," + expression(depth) + "]";
+            case 2:
+                return "NORPROB[" + real_list(depth) + "," + expression(depth) + "," +
+                       expression(depth) + "]";
+            default:
+                return pick_of({"COMB[", "PERM["}) + expression(depth) + "," + expression(depth) +
+                       "]";
         }
     }
 

@@ -234,22 +234,32 @@ TEST_F(MapSolver, BasePairsAndWholeLineFunctions) {
               "not using base 10");
 }
 
-TEST_F(MapSolver, StatisticsAnswerAsTheirLineDoesUntilTheyArrive) {
-    // The handler-less functions fail the recording itself with the same text.
-    EXPECT_EQ(record_map(parser, "MEAN[{1,x}]"), 0);
+TEST_F(MapSolver, StatisticsRepeatTheirHandlersTestsAtEachRun) {
     Equation &map = *parser.equations.add();
-    map.set_instruction(Instruction::Literal, complex{3, 0});
-    map.set_instruction(Instruction::Literal, complex{1, 0});
+    map.set_instruction(Instruction::Literal, complex{5, 0});
+    map.set_instruction(Instruction::Literal, complex{2, 0});
     map.set_instruction(Instruction::Comb);
     map.set_instruction(Instruction::End);
-    parser.solve_equation(parser.equations.count(), false, true);
-    EXPECT_EQ(error_of(parser), "Sorry, the function \"COMB\" is not currently available!");
-    map.literals[1].real = 5;
-    parser.solve_equation(parser.equations.count(), false, true);
+    const int number = parser.equations.count();
+    EXPECT_EQ(parser.solve_equation(number, false, true).real, 10.0);
+    EXPECT_FALSE(parser.IsAnError());
+    map.literals[1].real = 6;
+    parser.solve_equation(number, false, true);
     EXPECT_EQ(error_of(parser), "N can not be less than R in COMB function call!");
     map.literals[1].imag = 1;
-    parser.solve_equation(parser.equations.count(), false, true);
+    parser.solve_equation(number, false, true);
     EXPECT_EQ(error_of(parser), "The parameters for COMB function call must be real numbers!");
+}
+
+TEST_F(MapSolver, ListStatisticsSeeOnlyTheirOwnRunsValues) {
+    const int map = record_map(parser, "MEDIAN[{x,1,2}] + MEAN[{x,10}]");
+    ASSERT_GT(map, 0);
+    for (double x : {0.0, 5.0, 40.0}) {
+        parser.set_var_value(complex{x, 0}, "x");
+        complex line;
+        parser.eval_exp("MEDIAN[{x,1,2}] + MEAN[{x,10}]", line, true, false);
+        EXPECT_EQ(parser.solve_equation(map, false, true).real, line.real) << x;
+    }
 }
 
 TEST_F(MapSolver, UnknownInstructionsAndFilePointsRaiseMapperErrorFive) {
