@@ -8,7 +8,9 @@
 
 #include "cli_files.h"
 #include "cli_options.h"
+#include "program_folders.h"
 #include "text_run.h"
+#include "user_library.h"
 
 namespace {
 
@@ -31,7 +33,10 @@ int main(int argc, char **argv) {
     const auto input = cli::ReadInput(options->path, error);
     if (!input) return Fail(error);
 
-    const TextRun run = RunText(*input, options->key);
+    // The user library is made when missing, as the desktop program does at its start.
+    const std::string libraries = library_folder(QUINDAR_SOURCE_LIBRARY_DIR);
+    create_user_library(libraries);
+    const TextRun run = RunText(*input, options->key, libraries);
     if (options->inPlace) {
         if (!cli::ReplaceFile(options->path, run.text, error)) return Fail(error);
     } else {

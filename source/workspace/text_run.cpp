@@ -3,6 +3,7 @@
 #include "text_run.h"
 
 #include "editor_engine.h"
+#include "library_files.h"
 #include "math_editor.h"
 #include "memory_text_buffer.h"
 #include "parser.h"
@@ -59,8 +60,9 @@ std::string WithLineFeeds(const std::string &text) {
 
 }  // namespace
 
-TextRun RunText(std::string_view input, RunKey key) {
-    Parser parser("", "");
+TextRun RunText(std::string_view input, RunKey key, const std::string &libraryFolder) {
+    Parser parser(libraryFolder.c_str(), libraryFolder.c_str());
+    if (!libraryFolder.empty()) install_function_libraries(parser);
     RecordingEngine engine(parser);
     MemoryTextBuffer buffer;
     MathEditor editor(buffer, engine);

@@ -32,6 +32,7 @@ struct TextRun {
     std::vector<LineFailure> failures;
 };
 
-TextRun RunText(std::string_view input, RunKey key);
+// libraryFolder (ending in its separator) holds the function libraries; empty: none.
+TextRun RunText(std::string_view input, RunKey key, const std::string &libraryFolder = {});
 
 }  // namespace quindar
