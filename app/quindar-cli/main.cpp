@@ -43,6 +43,7 @@ int main(int argc, char **argv) {
         std::cout << run.text << std::flush;
         if (!std::cout) return Fail("cannot write standard output");
     }
+    for (const std::string &warning : run.warnings) std::cerr << "quindar-cli: " << warning << '\n';
     for (const LineFailure &failure : run.failures)
         std::cerr << failure.line << ": " << failure.message << '\n';
     return run.failures.empty() ? 0 : 1;

@@ -61,12 +61,20 @@ std::string WithLineFeeds(const std::string &text) {
 }  // namespace
 
 TextRun RunText(std::string_view input, RunKey key, const std::string &libraryFolder) {
+    TextRun run;
     Parser parser(libraryFolder.c_str(), libraryFolder.c_str());
-    if (!libraryFolder.empty()) install_function_libraries(parser);
+    if (!libraryFolder.empty()) {
+        parser.set_message_hook([&run](std::string_view text, std::string_view, MessageStyle) {
+            run.warnings.emplace_back(text);
+            return true;
+        });
+        install_function_libraries(parser);
+        // Lines report through their failures, not through boxes.
+        parser.set_message_hook({});
+    }
     RecordingEngine engine(parser);
     MemoryTextBuffer buffer;
     MathEditor editor(buffer, engine);
-    TextRun run;
 
     const auto noteFailures = [&](int line) {
         for (std::string &message : engine.errors) run.failures.push_back({line + 1, message});

@@ -30,6 +30,8 @@ struct TextRun {
     // CR LF, LF otherwise).
     std::string text;
     std::vector<LineFailure> failures;
+    // What the engine told outside any line: a library file that could not be opened.
+    std::vector<std::string> warnings;
 };
 
 // libraryFolder (ending in its separator) holds the function libraries; empty: none.

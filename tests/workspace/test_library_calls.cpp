@@ -14,6 +14,7 @@
 #include "library_files.h"
 #include "parser.h"
 #include "temp_folder.h"
+#include "text_run.h"
 
 namespace quindar {
 namespace {
@@ -195,6 +196,21 @@ TEST(LibraryFiles, DamagedLibrariesFailCleanly) {
         {"2+3", " = 5"},
     };
     check_lines(parser, table);
+}
+
+TEST(LibraryFiles, AHeadlessRunToldOfAMissingLibraryComputesWithTheOther) {
+    TempFolder folder;
+    const std::string path = folder.path() + "/";
+    folder.write("QuindarUser.lib", kUser);
+    const TextRun run = RunText("CUBE[3]\nSHARED[1]\n", RunKey::F4, path);
+    EXPECT_EQ(run.text,
+              "CUBE[3] = 27\nSHARED[1] = 101\n");  // the user's SHARED, lacking the system's
+    EXPECT_EQ(run.warnings, std::vector<std::string>{not_opened(path + "Quindar.lib")});
+    EXPECT_TRUE(run.failures.empty());
+
+    const TextRun shipped = RunText("CIRCLEAREA[1]\n", RunKey::F4, QUINDAR_LIBRARY_DIR);
+    EXPECT_EQ(shipped.text, "CIRCLEAREA[1] = 3.1415926535898\n");
+    EXPECT_TRUE(shipped.warnings.empty());
 }
 
 }  // namespace
