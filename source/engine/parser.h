@@ -207,6 +207,9 @@ public:
 
     std::unique_ptr<FunctionLibrary> library;
     std::unique_ptr<FunctionLibrary> user_library;
+    // The two files' paths, for the Function Library's own reading of names and descriptions.
+    const std::string &get_lib_path() const { return lib_path; }
+    const std::string &get_user_lib_path() const { return user_lib_path; }
 
     // The embedded functions and constants.
     int internal_function(const char *name) const;

@@ -120,6 +120,12 @@ TEST_F(LibraryCalls, MessagesOfDeclarations) {
     check_lines(parser, table);
 }
 
+// Each entry of a data file is read by a second engine, which has the same libraries.
+TEST_F(LibraryCalls, DataFileEntriesMayCallLibraryFunctions) {
+    const std::string data = folder.write("data.txt", "SQUARE[3], CUBE[2]\n1");
+    EXPECT_EQ(evaluate(parser, ("SRESIST[{" + data + "}]").c_str()), " = 18");
+}
+
 TEST_F(LibraryCalls, AnEditedUserLibraryCountsAtTheNextLine) {
     EXPECT_EQ(evaluate(parser, "CUBE[2]"), " = 8");
     folder.write("QuindarUser.lib", "[MINE]\nCUBE[x]=x^3+1\nNEWONE[x]=x-1\n");
@@ -153,6 +159,8 @@ TEST(LibraryFiles, MissingFilesAreToldOnceEvenWhenSilentAndTheEngineWorksOn) {
     EXPECT_EQ(boxes[0].text, not_opened(path + "Quindar.lib"));
     EXPECT_EQ(boxes[1].text, not_opened(path + "QuindarUser.lib"));
     EXPECT_EQ(boxes[0].caption, "File Access");
+    EXPECT_EQ(parser.get_lib_path(), path + "Quindar.lib");
+    EXPECT_EQ(parser.get_user_lib_path(), path + "QuindarUser.lib");
     EXPECT_EQ(evaluate(parser, "1+1"), " = 2");
     EXPECT_EQ(evaluate(parser, "SQUARE[2]"), "' SQUARE ' can not be identified as a function!");
     EXPECT_EQ(boxes.size(), 2u);  // silent lines show nothing
