@@ -305,6 +305,7 @@ private:
     void copy_token(char &type, std::string &to) const;
     void copy_token_back(char type, const std::string &from);
     void check_valid_input(char *text);
+    void check_legitimate_characters(const char *text);
     bool passes_incremental_comma_test();
     void check_balanced_parens(const char *text);
     bool is_function_declaration();
@@ -339,7 +340,7 @@ private:
     void eval_lib_function();
     std::vector<std::string> collect_arguments(const std::string &shortName, bool refuseSelf);
     bool names_itself(const std::string &text, const std::string &name);
-    bool library_name_may_follow(const char *name);
+    bool may_be_library_name(const char *name);
     bool check_function_library_access(const std::string &path);
     void check_library_call(const char *behind);
     void insert_function(const std::string &value, char *start, const char *rest);

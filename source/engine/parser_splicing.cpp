@@ -55,8 +55,8 @@ void Parser::insert_functions() {
     while (get_token() != nullptr && !at_end()) {
         if (token_type != kName) continue;
         const int index = find_function(token.c_str());
-        const bool library_call = index < 0 && library_name_may_follow(token.c_str()) &&
-                                  is_library_function(token.c_str());
+        const bool library_call =
+            index < 0 && may_be_library_name(token.c_str()) && is_library_function(token.c_str());
         if (index < 0 && !library_call) continue;
         if (++splices > kMaxSplices)
             special_exception(messages::kExpansionWithoutEnd, token.c_str());
@@ -72,7 +72,7 @@ void Parser::insert_functions() {
 
 // Names the document already knows stand for themselves: a library look-up reads both files,
 // and a variable, embedded function or constant is never taken for a library function.
-bool Parser::library_name_may_follow(const char *name) {
+bool Parser::may_be_library_name(const char *name) {
     return !is_variable(name) && !is_internal_function(name) && !is_constant(name);
 }
 
@@ -187,6 +187,8 @@ void Parser::eval_lib_function() {
         raise_argument_count(function->short_name, function->num_vars, used);
     enclose(arguments);
     function->SubstituteArguments(arguments);
+    // A library body was never checked as a typed line is.
+    check_legitimate_characters(function->mod_value.c_str());
     check_balanced_parens(function->mod_value.c_str());
     insert_function(function->mod_value, start, prog);
     prog = start;

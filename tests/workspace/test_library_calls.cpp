@@ -188,7 +188,8 @@ TEST(LibraryFiles, DamagedLibrariesFailCleanly) {
     const std::string path = folder.path() + "/";
     constexpr char kGarbage[] = "[\x01\xff=]\n\0\0[GARBAGE\n=[]=\r\r\n\0\x7f[X]\xfe\nLOST[a]=a\n";
     // A definition outside any category is none; a category after the garbage still counts.
-    const std::string garbage = std::string(kGarbage, sizeof kGarbage - 1) + "[OK]\nGOOD[a]=a*3\n";
+    const std::string garbage = std::string(kGarbage, sizeof kGarbage - 1) +
+                                "[OK]\nGOOD[a]=a*3\nODD[a]=a$@\nUNEVEN[a]=(a\n";
     folder.write("Quindar.lib", garbage);
     std::string huge = "[BIG]\nHUGE[x]=x";
     for (int k = 0; k < 50000; ++k) huge += "+1";
@@ -199,6 +200,8 @@ TEST(LibraryFiles, DamagedLibrariesFailCleanly) {
     const LineCase table[] = {
         {"GOOD[2]", " = 6"},
         {"HUGE[1]", "Not enough memory available in buffer to process expression!"},
+        {"ODD[1]", "' $ ' is not a legitimate mathematical character!"},
+        {"UNEVEN[1]", "Unbalanced parentheses in expression!"},
         {"LOST[1]", "' LOST ' can not be identified as a function!"},
         {"NONE[1]", "' NONE ' can not be identified as a function!"},
         {"2+3", " = 5"},
