@@ -101,14 +101,4 @@ bool ReplaceFile(const std::string &path, std::string_view content, std::string 
     return true;
 }
 
-std::string LibraryFolder() {
-    namespace fs = std::filesystem;
-    std::error_code failure;
-    const fs::path beside = fs::read_symlink("/proc/self/exe", failure).parent_path() / "Library";
-    if (!failure && fs::is_directory(beside, failure)) return beside.string() + "/";
-    const fs::path source = QUINDAR_SOURCE_LIBRARY_DIR;
-    if (fs::is_directory(source, failure)) return source.string() + "/";
-    return "";
-}
-
 }  // namespace quindar::cli

@@ -18,8 +18,4 @@ std::optional<std::string> ReadInput(const std::string &path, std::string &error
 // failed write leaves the old file as it was. The file keeps its permissions.
 bool ReplaceFile(const std::string &path, std::string_view content, std::string &error);
 
-// The Library folder beside the executable, or else the one of the source tree this program
-// was built from; with its trailing separator, or empty when neither exists.
-std::string LibraryFolder();
-
 }  // namespace quindar::cli

@@ -9,7 +9,9 @@
 #include "cli_files.h"
 #include "cli_options.h"
 #include "parser.h"
+#include "program_folders.h"
 #include "text_run.h"
+#include "user_library.h"
 
 namespace {
 
@@ -19,6 +21,7 @@ int Fail(const std::string &message) {
 }
 
 void ReportFailures(const quindar::TextRun &run) {
+    for (const std::string &warning : run.warnings) std::cerr << "quindar-cli: " << warning << '\n';
     for (const quindar::LineFailure &failure : run.failures)
         std::cerr << failure.line << ": " << failure.message << '\n';
 }
@@ -26,8 +29,10 @@ void ReportFailures(const quindar::TextRun &run) {
 // A numeric computation on the engine of FILE, when one is given.
 int Compute(const quindar::cli::Options &options) {
     using namespace quindar;
-    const std::string library = cli::LibraryFolder();
-    Parser parser(library.c_str(), library.c_str());
+    const std::string libraries = library_folder(QUINDAR_SOURCE_LIBRARY_DIR);
+    Parser parser(libraries.c_str(), libraries.c_str());
+    for (const std::string &warning : OpenLibraries(parser, libraries))
+        std::cerr << "quindar-cli: " << warning << '\n';
     std::string error;
     if (options.havePath) {
         const auto input = cli::ReadInput(options.path, error);
@@ -63,7 +68,10 @@ int main(int argc, char **argv) {
     const auto input = cli::ReadInput(options->path, error);
     if (!input) return Fail(error);
 
-    const TextRun run = RunText(*input, options->key, cli::LibraryFolder());
+    // The user library is made when missing, as the desktop program does at its start.
+    const std::string libraries = library_folder(QUINDAR_SOURCE_LIBRARY_DIR);
+    create_user_library(libraries);
+    const TextRun run = RunText(*input, options->key, libraries);
     if (options->inPlace) {
         if (!cli::ReplaceFile(options->path, run.text, error)) return Fail(error);
     } else {

@@ -19,13 +19,17 @@ std::optional<LibraryFunctionText> lib_function_text(VarFunIniFile &library, con
     return LibraryFunctionText{full.data(), value.data()};
 }
 
-std::optional<LibraryFunctionText> find_library_function(VarFunIniFile &library, const char *name) {
-    if (name == nullptr) return std::nullopt;
+std::vector<std::string> library_categories(VarFunIniFile &library) {
     long size = library.SizeOfFunctionCatagories();
-    if (size <= 0) return std::nullopt;
+    if (size <= 0) return {};
     std::vector<char> list(static_cast<std::size_t>(size));
     library.GetFunctionCatagories(list.data(), static_cast<int>(size));
-    for (const auto &category : split_multi_string(list.data(), list.size())) {
+    return split_multi_string(list.data(), list.size());
+}
+
+std::optional<LibraryFunctionText> find_library_function(VarFunIniFile &library, const char *name) {
+    if (name == nullptr) return std::nullopt;
+    for (const auto &category : library_categories(library)) {
         library.SetFunctionFlagStr(category.c_str());
         if (auto found = lib_function_text(library, name)) return found;
     }

@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "var_fun_ini_file.h"
 
@@ -20,6 +21,9 @@ struct LibraryFunctionText {
 // finds it; then the full name and the value, each read into a buffer of the file's longest
 // line. The value may come back empty.
 std::optional<LibraryFunctionText> lib_function_text(VarFunIniFile &library, const char *name);
+
+// The categories of a library in file order.
+std::vector<std::string> library_categories(VarFunIniFile &library);
 
 // The search of a whole library: each category in file order becomes the function flag in
 // turn, and the first one that holds the name ends the search (that category stays set).

@@ -100,6 +100,12 @@ bool Function::ModFuncValue(int k, const char *text) {
     return replaced;
 }
 
+bool Function::UsesFuncVariable(int k) const {
+    Function probe(*this);
+    probe.ResetModFuncValue();
+    return probe.ModFuncValue(k, "()");
+}
+
 void Function::SubstituteArguments(const std::vector<std::string> &arguments) {
     mod_value.clear();
     std::size_t i = 0;

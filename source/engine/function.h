@@ -26,6 +26,8 @@ public:
     bool IsFuncVariable(const char *name) const;
     // Writes text for every whole-name occurrence of variable k in the working copy.
     bool ModFuncValue(int k, const char *text);
+    // True if variable k stands in the body as a whole name.
+    bool UsesFuncVariable(int k) const;
     void ResetModFuncValue() { mod_value = func_value; }
     // Writes all arguments into a fresh working copy at once, so that an argument that
     // holds the name of a later variable is left as it was written.

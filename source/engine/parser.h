@@ -18,6 +18,7 @@
 #include "dynlist.h"
 #include "equation.h"
 #include "function.h"
+#include "function_library.h"
 #include "mathematics.h"
 #include "message_hook.h"
 #include "precform.h"
@@ -200,6 +201,23 @@ public:
 
     DynArray<Function, 10> functions;
 
+    // The function library files. The owner installs how a library file is read; the engine
+    // then opens its system and user library with it, each one that can be read, and tells
+    // once of each that cannot. Without them no name is a library function.
+    void open_function_libraries(FunctionLibraryOpener opener);
+    // True if name is a function of the system library or, failing that, of the user
+    // library; the function found waits in lib_function.
+    bool is_library_function(const char *name);
+    // A new record of the function name in the current category of the library, or null.
+    std::unique_ptr<Function> get_lib_function(const char *name);
+    std::unique_ptr<Function> get_user_function(const char *name);
+
+    std::unique_ptr<FunctionLibrary> library;
+    std::unique_ptr<FunctionLibrary> user_library;
+    // The two files' paths, for the Function Library's own reading of names and descriptions.
+    const std::string &get_lib_path() const { return lib_path; }
+    const std::string &get_user_lib_path() const { return user_lib_path; }
+
     // The embedded functions and constants.
     int internal_function(const char *name) const;
     bool is_internal_function(const char *name) const;
@@ -338,6 +356,7 @@ private:
     void copy_token(char &type, std::string &to) const;
     void copy_token_back(char type, const std::string &from);
     void check_valid_input(char *text);
+    void check_legitimate_characters(const char *text);
     bool passes_incremental_comma_test();
     void check_balanced_parens(const char *text);
     bool is_function_declaration();
@@ -364,13 +383,18 @@ private:
 
     // Names that later tables answer; until then they find nothing.
     complex call_internal_function(int index, std::ostream &answer);
-    bool is_library_function(const char *name);
     bool user_function_full_name(const char *name, std::string &fullName);
     void declare_variable(complex &value, std::ostream &answer, const char *name);
     void declare_unassigned_variable(const char *name);
     void declare_function();
     void insert_functions();
     void eval_function(int index);
+    void eval_lib_function();
+    std::vector<std::string> collect_arguments(const std::string &shortName, bool refuseSelf);
+    bool names_itself(const std::string &text, const std::string &name);
+    bool may_be_library_name(const char *name);
+    bool check_function_library_access(const std::string &path);
+    void check_library_call(const char *behind);
     void insert_function(const std::string &value, char *start, const char *rest);
     void check_declaration_body(const std::string &fullName, const std::string &shortName,
                                 const std::vector<std::string> &parameters, char *body);
@@ -407,6 +431,8 @@ private:
     long double trapezoid_estimate = 0.0L;
 
     std::string lib_path, lib_dir, user_lib_path, user_lib_dir;
+    FunctionLibraryOpener library_opener;
+    std::unique_ptr<Function> lib_function;
 
     std::unique_ptr<char[]> expr;
     char *prog = nullptr;

@@ -110,6 +110,7 @@ bool Parser::get_file_data(DynArray<long double, 10> &list, const char *name, in
     list.flush();
     if (!get_file_data(entries, name, fn)) return false;
     Parser reader(lib_dir.c_str(), user_lib_dir.c_str());
+    reader.open_function_libraries(library_opener);
     for (int k = 0; k < entries.count(); ++k) {
         complex value;
         reader.eval_exp(entries[k]->c_str(), value, true, false);

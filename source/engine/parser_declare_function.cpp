@@ -60,10 +60,37 @@ void Parser::check_declaration_body(const std::string &fullName, const std::stri
         if (is_function(name) || is_internal_function(name) || is_constant(name) ||
             is_variable(name))
             continue;
+        const bool parameter =
+            std::find(parameters.begin(), parameters.end(), token) != parameters.end();
+        if (!parameter && is_library_function(name)) {
+            check_library_call(prog);
+            continue;
+        }
         if (call) special_exception(messages::kNotDefinedAsFunction, name);
-        if (std::find(parameters.begin(), parameters.end(), token) == parameters.end())
-            special_exception(messages::kVariableNotDefined, name);
+        if (!parameter) special_exception(messages::kVariableNotDefined, name);
     }
+}
+
+// A library function named in a body must be called with brackets and its number of
+// arguments, counted by the commas outside nested brackets. behind: the text behind its name.
+void Parser::check_library_call(const char *behind) {
+    const std::unique_ptr<Function> function = std::move(lib_function);
+    if (*behind != '[') special_exception(messages::kLibraryBracketExpected, token.c_str());
+    int depth = 0;
+    int used = 0;
+    bool empty = true;
+    for (const char *p = behind + 1; *p != '\0'; ++p) {
+        if (*p == '[' || *p == '(') ++depth;
+        if (*p == ']' || *p == ')') {
+            if (depth == 0) break;
+            --depth;
+        }
+        if (*p == ',' && depth == 0) ++used;
+        if (*p != ' ' && *p != '\t') empty = false;
+    }
+    if (!empty) ++used;
+    if (used != function->num_vars)
+        raise_argument_count(function->full_name, function->num_vars, used);
 }
 
 void Parser::declare_function() {

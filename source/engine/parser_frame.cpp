@@ -114,6 +114,7 @@ void Parser::reset() {
     token.clear();
     saved_token.clear();
     expr.reset();
+    lib_function.reset();
     prog = nullptr;
     expr_start = nullptr;
     mapping = false;

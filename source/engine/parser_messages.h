@@ -22,6 +22,7 @@ inline constexpr const char *kParserCaption = "Parser Error";
 inline constexpr const char *kMathLibraryCaption = "MATH LIBRARY ERROR";
 inline constexpr const char *kSolverCaption = "EXPRESSION SOLVER";
 inline constexpr const char *kVariableCaption = "VARIABLE";
+inline constexpr const char *kFileAccessCaption = "File Access";
 
 inline constexpr const char *kNotLegitimate = "' %c ' is not a legitimate mathematical character!";
 inline constexpr const char *kCommaMisused =
@@ -79,6 +80,13 @@ inline constexpr const char *kArgumentCountMany =
 inline constexpr const char *kExpansionWithoutEnd =
     "Function ' %s ' is expanded without end: functions that call each other in a circle can "
     "not be evaluated!";
+inline constexpr const char *kLibraryFunctionOfItself =
+    "The library function ' %s ' can not be a function of itself!";
+inline constexpr const char *kLibraryNotAFunctionOf =
+    "Invalid library function,\n' %s ' is not a function of ' %s '!";
+inline constexpr const char *kLibraryNotOpened =
+    "The Quindar function library file \" %s \" could not be opened! If the file exist's, check "
+    "your system level access privilages.";
 inline constexpr const char *kTooManyDigits =
     "The specified operation on the number ' %s ' can not be performed because this number has "
     "more significant digits than the operation can support.";

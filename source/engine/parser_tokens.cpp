@@ -137,15 +137,20 @@ void Parser::remove_end_spaces(char *text) {
     while (length > 0 && is_blank(text[length - 1])) text[--length] = '\0';
 }
 
+void Parser::check_legitimate_characters(const char *text) {
+    for (const char *p = text; *p != '\0'; ++p)
+        if (std::strchr(kNotLegitimate, *p) != nullptr)
+            special_exception(messages::kNotLegitimate, *p);
+}
+
 void Parser::check_valid_input(char *text) {
     if (text == nullptr || *text == '\0') parser_exception(4);
     const char *p = text;
     while (is_blank(*p)) ++p;
     if (*p == '=') parser_exception(11);
     int depth = 0;
+    check_legitimate_characters(p);
     for (; *p != '\0'; ++p) {
-        if (std::strchr(kNotLegitimate, *p) != nullptr)
-            special_exception(messages::kNotLegitimate, *p);
         if (*p == '[') ++depth;
         if (*p == ']') --depth;
         if (*p == ',' && depth == 0) {

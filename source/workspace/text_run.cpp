@@ -3,6 +3,7 @@
 #include "text_run.h"
 
 #include "editor_engine.h"
+#include "library_files.h"
 #include "math_editor.h"
 #include "memory_text_buffer.h"
 #include "parser.h"
@@ -59,16 +60,32 @@ std::string WithLineFeeds(const std::string &text) {
 
 }  // namespace
 
-TextRun RunText(std::string_view input, RunKey key, const std::string &libraryDir) {
-    Parser parser(libraryDir.c_str(), libraryDir.c_str());
-    return RunText(input, key, parser);
+std::vector<std::string> OpenLibraries(Parser &parser, const std::string &libraryFolder) {
+    std::vector<std::string> warnings;
+    if (libraryFolder.empty()) return warnings;
+    parser.set_message_hook([&warnings](std::string_view text, std::string_view, MessageStyle) {
+        warnings.emplace_back(text);
+        return true;
+    });
+    install_function_libraries(parser);
+    // Lines report through their failures, not through boxes.
+    parser.set_message_hook({});
+    return warnings;
+}
+
+TextRun RunText(std::string_view input, RunKey key, const std::string &libraryFolder) {
+    Parser parser(libraryFolder.c_str(), libraryFolder.c_str());
+    std::vector<std::string> warnings = OpenLibraries(parser, libraryFolder);
+    TextRun run = RunText(input, key, parser);
+    run.warnings.insert(run.warnings.begin(), warnings.begin(), warnings.end());
+    return run;
 }
 
 TextRun RunText(std::string_view input, RunKey key, Parser &parser) {
+    TextRun run;
     RecordingEngine engine(parser);
     MemoryTextBuffer buffer;
     MathEditor editor(buffer, engine);
-    TextRun run;
 
     const auto noteFailures = [&](int line) {
         for (std::string &message : engine.errors) run.failures.push_back({line + 1, message});

@@ -30,13 +30,17 @@ struct TextRun {
     // CR LF, LF otherwise).
     std::string text;
     std::vector<LineFailure> failures;
+    // What the engine told outside any line: a library file that could not be opened.
+    std::vector<std::string> warnings;
 };
 
-// libraryDir is the folder of the function library and its data files, ending in its
-// separator; empty for none.
-TextRun RunText(std::string_view input, RunKey key, const std::string &libraryDir = "");
+// libraryFolder (ending in its separator) holds the function libraries; empty: none.
+TextRun RunText(std::string_view input, RunKey key, const std::string &libraryFolder = {});
 // The same on the caller's engine, which keeps the text's variables and functions.
 class Parser;
 TextRun RunText(std::string_view input, RunKey key, Parser &parser);
+// Opens the engine's function libraries (in the folder it was made with); what could not be
+// opened comes back as warnings.
+std::vector<std::string> OpenLibraries(Parser &parser, const std::string &libraryFolder);
 
 }  // namespace quindar
