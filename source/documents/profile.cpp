@@ -127,6 +127,12 @@ std::vector<std::string> profile_sections(const std::string &path) {
     return text.section_names();
 }
 
+std::string profile_with_key(std::string content, std::string_view section, std::string_view key,
+                             std::string_view value) {
+    ProfileText text(std::move(content));
+    return set_key(text, text::trim(section), text::trim(key), value);
+}
+
 int profile_int(std::string_view value, int deflt) {
     value = text::trim(value);
     std::size_t at = 0;
