@@ -4,17 +4,21 @@
 
 namespace quindar::cli {
 
-const char *const kUsage = "Usage: quindar-cli [--enter] [--in-place] [FILE]\n";
+const char *const kUsage = "Usage: quindar-cli [--enter] [--in-place] [--save DOC.qnd] [FILE]\n";
 
 const char *const kHelp =
-    "Usage: quindar-cli [--enter] [--in-place] [FILE]\n"
+    "Usage: quindar-cli [--enter] [--in-place] [--save DOC.qnd] [FILE]\n"
     "Computes every line of FILE (standard input when FILE is missing or \"-\") in a Math\n"
     "Editor and prints the resulting text: each answer is written behind its line (\"2+3\"\n"
     "gives \"2+3 = 5\"), an old answer is replaced, comments and \"//\" lines stay.\n"
+    "A FILE ending in \".qnd\" is a document: its variables and functions are declared\n"
+    "before its text is computed, and --in-place saves the whole document back.\n"
     "\n"
     "  --enter      type each line and press Enter instead of pressing F4 on it; every\n"
     "               line then ends in a line break\n"
     "  --in-place   write the result back to FILE instead of standard output\n"
+    "  --save DOC.qnd  also save the computed work (text, variables, functions,\n"
+    "               settings and graphs) as the document DOC.qnd\n"
     "  -h, --help   show this text\n"
     "\n"
     "A line that fails stays as typed and its error goes to standard error as\n"
@@ -25,8 +29,14 @@ std::optional<Options> ParseOptions(const std::vector<std::string> &arguments, s
     Options options;
     bool havePath = false;
     bool optionsEnded = false;
+    bool saveFollows = false;
     for (const std::string &argument : arguments) {
-        if (!optionsEnded && argument == "--") {
+        if (saveFollows) {
+            options.savePath = argument;
+            saveFollows = false;
+        } else if (!optionsEnded && argument == "--save") {
+            saveFollows = true;
+        } else if (!optionsEnded && argument == "--") {
             optionsEnded = true;
         } else if (!optionsEnded && (argument == "--help" || argument == "-h")) {
             options.help = true;
@@ -44,6 +54,10 @@ std::optional<Options> ParseOptions(const std::vector<std::string> &arguments, s
             options.path = argument;
             havePath = true;
         }
+    }
+    if (saveFollows) {
+        error = "--save needs a document name";
+        return std::nullopt;
     }
     if (options.inPlace && !options.help && options.path == "-") {
         error = "--in-place needs a FILE, not standard input";

@@ -21,6 +21,7 @@ struct Options {
     bool inPlace = false;
     RunKey key = RunKey::F4;
     std::string path = "-";  // "-" is standard input
+    std::string savePath;    // --save: the processed work as a document, when not empty
 };
 
 // The options, or the reason they are wrong in error.

@@ -101,7 +101,7 @@ bool DocumentFile::Read(const char *path) {
     // a document is refused without leaving half of it in the engine.
     const auto bytes = read_whole_file(source);
     if (!bytes) {
-        Warn("File \" " + source + " \" Could Not Be Opened!", kCaptionFileOpen);
+        show_warning(warn, VarFunIniFile(source.c_str()).GetErrorMessage(), "File Access");
         Warn(document_message(kMsgUnableToRead, source.c_str()), kCaptionFileOpen);
         return false;
     }

@@ -61,6 +61,10 @@ std::string WithLineFeeds(const std::string &text) {
 
 TextRun RunText(std::string_view input, RunKey key) {
     Parser parser("", "");
+    return RunText(input, key, parser);
+}
+
+TextRun RunText(std::string_view input, RunKey key, Parser &parser) {
     RecordingEngine engine(parser);
     MemoryTextBuffer buffer;
     MathEditor editor(buffer, engine);

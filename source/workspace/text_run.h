@@ -34,4 +34,8 @@ struct TextRun {
 
 TextRun RunText(std::string_view input, RunKey key);
 
+class Parser;
+// The same with an engine that already holds declarations, such as a loaded document's.
+TextRun RunText(std::string_view input, RunKey key, Parser &parser);
+
 }  // namespace quindar
