@@ -33,11 +33,17 @@ std::string upper_case(std::string text) {
     return text;
 }
 
-// An existing file that this process may not write.
+// An existing file that this process may not write, or that has no write permission at all
+// (which a privileged process could otherwise overwrite).
 bool is_read_only(const std::string &path) {
+    namespace fs = std::filesystem;
     std::error_code error;
-    if (!std::filesystem::exists(path, error)) return false;
-    return ::access(path.c_str(), W_OK) != 0;
+    const fs::file_status status = fs::status(path, error);
+    if (error || !fs::exists(status)) return false;
+    const fs::perms writable =
+        fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+    return ::access(path.c_str(), W_OK) != 0 ||
+           (status.permissions() & writable) == fs::perms::none;
 }
 
 // The editor's text as a text-mode read and write give it back: every line break CR LF.
