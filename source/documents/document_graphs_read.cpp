@@ -79,8 +79,9 @@ bool DocumentFile::ReadGraph(GraphData &graph, const std::string &section) {
 bool DocumentFile::ReadGraphFunctions(GraphData &graph, const std::string &section) {
     for (int n = 1;; ++n) {
         const std::string number = std::to_string(n);
+        // A key without a value ends the list as a missing one does.
         const auto value = profile_value(readPath, section, "Function" + number);
-        if (!value) break;
+        if (!value || value->empty()) break;
         const auto equals = value->find('=');
         const std::string fullName = value->substr(0, equals);
         const std::string body = equals == std::string::npos ? "" : value->substr(equals + 1);
