@@ -6,7 +6,7 @@
 #include "document_file.h"
 #include "document_messages.h"
 #include "multi_string.h"
-#include "profile.h"
+#include "profile_snapshot.h"
 #include "text_helpers.h"
 
 namespace quindar {
@@ -56,7 +56,7 @@ bool DocumentFile::WriteFunctions() {
 
 bool DocumentFile::ReadVariables() {
     if (iniFile->SizeOfVarSection() == 0) return true;
-    const std::vector<std::string> names = profile_keys(readPath, kVariablesSection);
+    const std::vector<std::string> names = snapshot->Keys(kVariablesSection);
     if (names.empty()) return true;
     if (!Progress("Reading And Declaring Variables", 0)) return false;
     const auto lineSize = static_cast<std::size_t>(std::max(iniFile->SizeOfLongestLine(), 2L));

@@ -13,6 +13,7 @@
 #include "file_io.h"
 #include "profile.h"
 #include "profile_builder.h"
+#include "profile_snapshot.h"
 
 namespace quindar {
 
@@ -117,7 +118,7 @@ bool DocumentFile::Read(const char *path) {
         return false;
     }
 
-    readPath = source;
+    snapshot = std::make_unique<ProfileSnapshot>(*bytes);
     iniFile = std::make_unique<VarFunIniFile>(source.c_str(), nullptr, nullptr, warn);
     Progress("Opening File...", 0);
     const bool declared =
@@ -127,6 +128,7 @@ bool DocumentFile::Read(const char *path) {
         Progress({}, kProgressCalculus) && ReadGraphs() && Progress({}, kProgressGraphs);
     const long textEnd = declared ? iniFile->OffsetOfFirstHeader() : 0;
     iniFile.reset();
+    snapshot.reset();
     if (!declared) {
         Warn(document_message(kMsgUnableToRead, source.c_str()), kCaptionFileOpen);
         return false;
@@ -143,14 +145,11 @@ bool DocumentFile::Read(const char *path) {
 
 std::string DocumentFile::GetString(const char *section, const char *key, const char *deflt,
                                     std::size_t size) const {
-    std::vector<char> buffer(std::max<std::size_t>(size, 1));
-    const std::size_t n = GetPrivateProfileString(section, key, deflt, buffer.data(), buffer.size(),
-                                                  readPath.c_str());
-    return std::string(buffer.data(), n);
+    return snapshot->String(section, key, deflt, size);
 }
 
 int DocumentFile::GetInt(const char *section, const char *key, int deflt) const {
-    return GetPrivateProfileInt(section, key, deflt, readPath.c_str());
+    return snapshot->Int(section, key, deflt);
 }
 
 bool DocumentFile::Evaluate(const std::string &text, complex &value) {

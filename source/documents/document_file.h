@@ -15,6 +15,7 @@
 namespace quindar {
 
 class ProfileBuilder;
+class ProfileSnapshot;
 
 // Section names of a document, in the order they are written.
 inline constexpr const char *kVariablesSection = "DECLARED VARIABLES";
@@ -95,10 +96,10 @@ private:
     WarningHook warn;
     ProgressHook progress;
 
-    // During a save: the file being built; during a load: the path being read and its
-    // section scanner.
+    // During a save: the file being built; during a load: the file's keys as read once,
+    // and its section scanner.
     ProfileBuilder *builder = nullptr;
-    std::string readPath;
+    std::unique_ptr<ProfileSnapshot> snapshot;
     std::unique_ptr<VarFunIniFile> iniFile;
 };
 

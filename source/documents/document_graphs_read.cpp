@@ -10,9 +10,7 @@
 #include "document_graph_keys.h"
 #include "document_messages.h"
 #include "graph_colors.h"
-#include "ini_file.h"
-#include "multi_string.h"
-#include "profile.h"
+#include "profile_snapshot.h"
 
 namespace quindar {
 
@@ -46,12 +44,10 @@ std::optional<AxisText> split_axis(const std::string &value) {
 }  // namespace
 
 bool DocumentFile::ReadGraphs() {
-    std::vector<char> list(kGraphListSize, '\0');
-    const std::size_t stored = GetPrivateProfileString(kGraphsSection, nullptr, "", list.data(),
-                                                       list.size(), readPath.c_str());
-    if (stored == 0) return true;
+    const std::vector<std::string> keys = snapshot->KeyList(kGraphsSection, kGraphListSize);
+    if (keys.empty()) return true;
     if (!Progress("Reading And Defining Graphs", 0)) return false;
-    for (const std::string &key : split_multi_string(list.data(), list.size())) {
+    for (const std::string &key : keys) {
         GraphData *graph = content.graphs.add();
         if (graph == nullptr) return false;
         const std::string title = GetString(kGraphsSection, key.c_str(), "", kTextKeySize);
@@ -80,11 +76,11 @@ bool DocumentFile::ReadGraphFunctions(GraphData &graph, const std::string &secti
     for (int n = 1;; ++n) {
         const std::string number = std::to_string(n);
         // A key without a value ends the list as a missing one does.
-        const auto value = profile_value(readPath, section, "Function" + number);
+        const auto value = snapshot->Value(section, "Function" + number);
         if (!value || value->empty()) break;
         const auto equals = value->find('=');
-        const std::string fullName = value->substr(0, equals);
-        const std::string body = equals == std::string::npos ? "" : value->substr(equals + 1);
+        const std::string fullName(value->substr(0, equals));
+        const std::string body(equals == std::string::npos ? "" : value->substr(equals + 1));
         Function *function = graph.AddFunction(fullName.c_str(), body.c_str());
         const std::string label =
             GetString(section.c_str(), ("Label" + number).c_str(), "", kTextKeySize);
@@ -122,7 +118,7 @@ bool DocumentFile::ReadDataSets(GraphData &graph, const std::string &section) {
     const char *name = section.c_str();
     // A set needs a key of its own, so no count beyond the section's keys can be real; the
     // bound keeps a damaged count from running for ever.
-    const int keys = static_cast<int>(profile_keys(readPath, section).size());
+    const int keys = static_cast<int>(snapshot->Keys(section).size());
     const int sets = std::min(GetInt(name, "NumDataSets", 0), keys);
     for (int n = 1; n <= sets; ++n) {
         StrDataPnts *set = graph.DataSets.add();
@@ -143,13 +139,12 @@ bool DocumentFile::ReadDataSets(GraphData &graph, const std::string &section) {
 
 void DocumentFile::ReadDataPoints(GraphData &graph, StrDataPnts &set, const std::string &section) {
     const char *name = section.c_str();
-    const int keys = static_cast<int>(profile_keys(readPath, section).size());
+    const int keys = static_cast<int>(snapshot->Keys(section).size());
     const int points = std::min(GetInt(name, (set.Name + "NumPts").c_str(), 0), keys);
-    const IniFile file(readPath.c_str());
     const int messages[3] = {kMsgXDataPoint, kMsgYDataPoint, kMsgZDataPoint};
     for (int i = 0; i < points; ++i) {
         char x[kPointSize], y[kPointSize], z[kPointSize];
-        file.GetPoint(name, (set.Name + "Pt" + std::to_string(i)).c_str(), x, y, z, kPointSize);
+        snapshot->Point(name, (set.Name + "Pt" + std::to_string(i)).c_str(), x, y, z, kPointSize);
         const char *texts[3] = {x, y, z};
         for (int c = 0; c < 3; ++c) {
             const char *text = texts[c];
@@ -170,11 +165,10 @@ void DocumentFile::ReadDataPoints(GraphData &graph, StrDataPnts &set, const std:
 void DocumentFile::ReadGraphAttributes(GraphData &graph, const std::string &section) {
     const char *name = section.c_str();
     const int kind = graph.GetGraphType();
-    const IniFile file(readPath.c_str());
     for (const GraphColorInfo &color : graph_colors()) {
         if (color.kinds == kColorFor2D && kind != kGraph2D) continue;
         if (color.kinds == kColorFor3D && kind != kGraph3D) continue;
-        file.GetColor(name, color.documentKey, color.deflt, graph.*color.field);
+        snapshot->Color(name, color.documentKey, color.deflt, graph.*color.field);
     }
     const int type = GetInt(name, "Type", 1);
     if (type != 0 && (kind == kGraph2D || kind == kGraph3D)) {

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "document_file.h"
-#include "ini_file.h"
+#include "profile_snapshot.h"
 
 namespace quindar {
 
@@ -223,7 +223,7 @@ bool DocumentFile::ReadFont() {
         return GetInt(section, key, deflt);
     };
     read_fields<DocumentFont>(content.font, kFontKeys, kFontSection, getText, getInt);
-    IniFile(readPath.c_str()).GetColor(kFontSection, "Color", TColor::Black, content.font.Color);
+    snapshot->Color(kFontSection, "Color", TColor::Black, content.font.Color);
     return true;
 }
 

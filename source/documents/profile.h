@@ -47,6 +47,10 @@ std::vector<std::string> profile_sections(const std::string &path);
 std::string profile_with_key(std::string content, std::string_view section, std::string_view key,
                              std::string_view value);
 
+// What GetPrivateProfileString stores for a value found (or for none: the default).
+std::size_t copy_profile_value(std::optional<std::string_view> value, const char *deflt,
+                               char *buffer, std::size_t size);
+
 // The integer reading of GetPrivateProfileInt applied to a text.
 int profile_int(std::string_view value, int deflt);
 
