@@ -281,6 +281,17 @@ void GraphData::SetCLZAxisVar(const Variable *variable) {
     set_axis_variable(CLZAxisVar, variable);
 }
 
+GraphData *add_new_graph(GraphList &list, const char *name, const GraphSettings *settings) {
+    GraphData *graph = list.add();
+    if (graph == nullptr) return nullptr;
+    graph->SetName(name);
+    graph->SetDefaultOrientation(settings);
+    graph->SetDefaultColors(settings);
+    graph->SetDefault3DAttributes();
+    graph->SetHeader(name);
+    return graph;
+}
+
 GraphData *copy_graph_list(const GraphList &from, const GraphData *current, GraphList &to) {
     to.flush();
     GraphData *copiedCurrent = nullptr;

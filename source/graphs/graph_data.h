@@ -172,6 +172,10 @@ private:
 // The graphs of one document, in insertion order.
 using GraphList = LinkList<GraphData>;
 
+// A new graph at the list's tail, named, with its orientation and colours from the settings
+// (built-in defaults when null), the default 3-D attributes, and its name as header.
+GraphData *add_new_graph(GraphList &list, const char *name, const GraphSettings *settings);
+
 // Copies every graph of from into to, which is emptied first; the graph of from that was
 // current gives the current graph of to (null when none).
 GraphData *copy_graph_list(const GraphList &from, const GraphData *current, GraphList &to);

@@ -310,5 +310,21 @@ TEST(GraphData, DefaultsFromTheSettingsSource) {
     EXPECT_FALSE(plain.SaveDefaultColors(nullptr));
 }
 
+TEST(GraphData, NewGraphTakesItsNameSettingsAndHeader) {
+    FakeSettings settings;
+    settings.ints["Graph Default Orientation/Depth2D"] = 44;
+    settings.colors["Graph Default Colors/Background"] = TColor(3, 3, 3);
+    GraphList list;
+    list.add();
+    GraphData *graph = add_new_graph(list, "Sales", &settings);
+    ASSERT_EQ(list.gettail(), graph);
+    EXPECT_EQ(graph->Name, "Sales");
+    EXPECT_EQ(graph->Header, "Sales");
+    EXPECT_EQ(graph->Depth2D, 44);
+    EXPECT_EQ(graph->BackgroundColor, TColor(3, 3, 3));
+    EXPECT_EQ(graph->GraphType3D, 1111);
+    EXPECT_EQ(add_new_graph(list, "Plain", nullptr)->Depth2D, 20);
+}
+
 }  // namespace
 }  // namespace quindar
