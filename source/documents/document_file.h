@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -16,6 +17,8 @@ namespace quindar {
 
 class ProfileBuilder;
 class ProfileSnapshot;
+template <class Record>
+struct DocumentFieldKey;
 
 // Section names of a document, in the order they are written.
 inline constexpr const char *kVariablesSection = "DECLARED VARIABLES";
@@ -81,6 +84,12 @@ private:
     std::string GetString(const char *section, const char *key, const char *deflt,
                           std::size_t size) const;
     int GetInt(const char *section, const char *key, int deflt) const;
+    template <class Record>
+    bool WriteFields(const Record &record, std::span<const DocumentFieldKey<Record>> keys,
+                     const char *section);
+    template <class Record>
+    void ReadFields(Record &record, std::span<const DocumentFieldKey<Record>> keys,
+                    const char *section) const;
     bool WriteGraph(const GraphData &graph, const std::string &section);
     bool ReadGraph(GraphData &graph, const std::string &section);
     bool ReadGraphFunctions(GraphData &graph, const std::string &section);

@@ -19,9 +19,11 @@ constexpr std::size_t kZeroPrecisionSize = 14;
 // A missing zero threshold reads as this text, which a 32-bit float holds as 0.
 constexpr const char *kMissingZeroPrecision = "1.0e-307";
 
+}  // namespace
+
 // One key of a record: exactly one of the field pointers is set.
 template <class Record>
-struct FieldKey {
+struct DocumentFieldKey {
     const char *key;
     int Record::*number = nullptr;
     std::uint8_t Record::*byte = nullptr;
@@ -29,6 +31,8 @@ struct FieldKey {
     std::size_t textSize = kTextKeySize;
     bool skipEmptyText = true;
 };
+
+namespace {
 
 // The keys of a format record, "Ans" or "Var" in front.
 enum class FormatField { ZeroPrecision, Precision, Format, DecPoint, LeadSign, AngleType };
@@ -53,7 +57,7 @@ const SetupKey kSetupKeys[] = {
     {"AngleType", true, FormatField::AngleType},
 };
 
-using FontKey = FieldKey<DocumentFont>;
+using FontKey = DocumentFieldKey<DocumentFont>;
 const FontKey kFontKeys[] = {
     {"FaceName", nullptr, nullptr, &DocumentFont::FaceName, kFaceNameSize, false},
     {"Height", &DocumentFont::Height},
@@ -71,7 +75,7 @@ const FontKey kFontKeys[] = {
     {"PitchAndFamily", nullptr, &DocumentFont::PitchAndFamily},
 };
 
-using IntegrationKey = FieldKey<IntegrationParameters>;
+using IntegrationKey = DocumentFieldKey<IntegrationParameters>;
 const IntegrationKey kIntegrationKeys[] = {
     {"IntType", &IntegrationParameters::IntType},
     {"IntPrecision", &IntegrationParameters::IntPrecision},
@@ -88,7 +92,7 @@ const IntegrationKey kIntegrationKeys[] = {
     {"IntZHiLimit", nullptr, nullptr, &IntegrationParameters::IntZHiLimit},
 };
 
-using DifferentiationKey = FieldKey<DifferentiationParameters>;
+using DifferentiationKey = DocumentFieldKey<DifferentiationParameters>;
 const DifferentiationKey kDifferentiationKeys[] = {
     {"DiffFunc", nullptr, nullptr, &DifferentiationParameters::DiffFunc},
     {"DiffVar", nullptr, nullptr, &DifferentiationParameters::DiffVar},
@@ -112,10 +116,9 @@ std::string zero_precision_text(float threshold) {
 
 // Writes the keys of a record in table order, stopping at the first failed write.
 template <class Record>
-static bool write_fields(const Record &record, std::span<const FieldKey<Record>> keys,
-                         const char *section,
-                         const std::function<bool(const char *, const char *, std::string)> &put) {
-    for (const FieldKey<Record> &row : keys) {
+bool DocumentFile::WriteFields(const Record &record, std::span<const DocumentFieldKey<Record>> keys,
+                               const char *section) {
+    for (const DocumentFieldKey<Record> &row : keys) {
         std::string value;
         if (row.number != nullptr) {
             value = std::to_string(record.*row.number);
@@ -125,27 +128,25 @@ static bool write_fields(const Record &record, std::span<const FieldKey<Record>>
             value = record.*row.text;
             if (value.empty() && row.skipEmptyText) continue;
         }
-        if (!put(section, row.key, std::move(value))) return false;
+        if (!Put(section, row.key, value)) return false;
     }
     return true;
 }
 
 // Reads the keys of a record; a missing key gives the value of a new record.
 template <class Record>
-static void read_fields(Record &record, std::span<const FieldKey<Record>> keys, const char *section,
-                        const std::function<std::string(const char *, const char *, const char *,
-                                                        std::size_t)> &getText,
-                        const std::function<int(const char *, const char *, int)> &getInt) {
+void DocumentFile::ReadFields(Record &record, std::span<const DocumentFieldKey<Record>> keys,
+                              const char *section) const {
     const Record defaults{};
-    for (const FieldKey<Record> &row : keys) {
+    for (const DocumentFieldKey<Record> &row : keys) {
         if (row.number != nullptr)
-            record.*row.number = getInt(section, row.key, defaults.*row.number);
+            record.*row.number = GetInt(section, row.key, defaults.*row.number);
         else if (row.byte != nullptr)
             record.*row.byte =
-                static_cast<std::uint8_t>(getInt(section, row.key, defaults.*row.byte));
+                static_cast<std::uint8_t>(GetInt(section, row.key, defaults.*row.byte));
         else
             record.*row.text =
-                getText(section, row.key, (defaults.*row.text).c_str(), row.textSize);
+                GetString(section, row.key, (defaults.*row.text).c_str(), row.textSize);
     }
 }
 
@@ -209,45 +210,28 @@ bool DocumentFile::ReadSettings() {
 }
 
 bool DocumentFile::WriteFont() {
-    const auto put = [this](const char *section, const char *key, std::string value) {
-        return Put(section, key, value);
-    };
-    return write_fields<DocumentFont>(content.font, kFontKeys, kFontSection, put) &&
+    return WriteFields<DocumentFont>(content.font, kFontKeys, kFontSection) &&
            Put(kFontSection, "Color", rgb_text(content.font.Color));
 }
 
 bool DocumentFile::ReadFont() {
-    const auto getText = [this](const char *section, const char *key, const char *deflt,
-                                std::size_t size) { return GetString(section, key, deflt, size); };
-    const auto getInt = [this](const char *section, const char *key, int deflt) {
-        return GetInt(section, key, deflt);
-    };
-    read_fields<DocumentFont>(content.font, kFontKeys, kFontSection, getText, getInt);
+    ReadFields<DocumentFont>(content.font, kFontKeys, kFontSection);
     snapshot->Color(kFontSection, "Color", TColor::Black, content.font.Color);
     return true;
 }
 
 bool DocumentFile::WriteCalculusParameters() {
-    const auto put = [this](const char *section, const char *key, std::string value) {
-        return Put(section, key, value);
-    };
-    return write_fields<IntegrationParameters>(content.integration, kIntegrationKeys,
-                                               kIntegrationSection, put) &&
-           write_fields<DifferentiationParameters>(content.differentiation, kDifferentiationKeys,
-                                                   kDifferentiationSection, put);
+    return WriteFields<IntegrationParameters>(content.integration, kIntegrationKeys,
+                                              kIntegrationSection) &&
+           WriteFields<DifferentiationParameters>(content.differentiation, kDifferentiationKeys,
+                                                  kDifferentiationSection);
 }
 
 bool DocumentFile::ReadCalculusParameters() {
     Progress("Reading The Integration Parameters", 0);
-    const auto getText = [this](const char *section, const char *key, const char *deflt,
-                                std::size_t size) { return GetString(section, key, deflt, size); };
-    const auto getInt = [this](const char *section, const char *key, int deflt) {
-        return GetInt(section, key, deflt);
-    };
-    read_fields<IntegrationParameters>(content.integration, kIntegrationKeys, kIntegrationSection,
-                                       getText, getInt);
-    read_fields<DifferentiationParameters>(content.differentiation, kDifferentiationKeys,
-                                           kDifferentiationSection, getText, getInt);
+    ReadFields<IntegrationParameters>(content.integration, kIntegrationKeys, kIntegrationSection);
+    ReadFields<DifferentiationParameters>(content.differentiation, kDifferentiationKeys,
+                                          kDifferentiationSection);
     return true;
 }
 

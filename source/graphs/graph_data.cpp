@@ -123,8 +123,11 @@ GraphData &GraphData::operator=(const GraphData &other) {
 
     Functions.flush();
     for (int i = 0; i <= other.Functions.maxfullindex(); ++i) {
-        if (const Function *function = other.Functions[i])
-            Functions.replace(new Function(*function), i);
+        if (const Function *function = other.Functions[i]) {
+            auto *copy = new Function(*function);
+            copy->next = copy->prev = nullptr;
+            Functions.replace(copy, i);
+        }
     }
     CommonVars.flush();
     for (const Variable *v = other.CommonVars.gethead(); v != nullptr; v = v->next) {

@@ -174,6 +174,24 @@ TEST(DocumentSave, MatchesTheGoldenFile) {
     EXPECT_EQ(file_content(folder.file("full.qnd")), file_content(data_file("saved_full.qnd")));
 }
 
+TEST(DocumentSave, SetWithoutANameStoresNoPoints) {
+    TempFolder folder;
+    Work work;
+    StrDataPnts *set = work.content.graphs.add()->DataSets.add();
+    set->PutXDataPoint("1", 0);
+    ASSERT_TRUE(work.save(folder.file("unnamed.qnd")));
+    const std::string saved = file_content(folder.file("unnamed.qnd"));
+    EXPECT_NE(saved.find("\r\nNumDataSets=1\r\nDataSet1=\r\n"), std::string::npos);
+    EXPECT_EQ(saved.find("NumPts"), std::string::npos);
+    Work loaded;
+    ASSERT_TRUE(loaded.load(folder.file("unnamed.qnd")));
+    EXPECT_EQ(loaded.boxes,
+              std::vector<std::string>{
+                  "File Open: File data for data set 1 of graph \"Graph1\" does not have "
+                  "a name and could not be loaded. Your file may be corrupt!"});
+    EXPECT_EQ(loaded.content.graphs.gethead()->Name, "Graph1");
+}
+
 TEST(DocumentSave, IncrementalsWithoutTheOptionArePlainValues) {
     TempFolder folder;
     Work work;
