@@ -5,23 +5,27 @@
 namespace quindar::cli {
 
 const char *const kUsage =
-    "Usage: quindar-cli [--enter] [--in-place] [FILE]\n"
+    "Usage: quindar-cli [--enter] [--in-place] [--save DOC.qnd] [FILE]\n"
     "       quindar-cli --integrate EXPR VAR LOW HIGH [--accuracy A] [OPTIONS] [FILE]\n"
     "       quindar-cli --derivative EXPR VAR AT [--order N] [--step H] [OPTIONS] [FILE]\n"
     "       quindar-cli --root EXPR VAR LOW HIGH [OPTIONS] [FILE]\n";
 
 const char *const kHelp =
-    "Usage: quindar-cli [--enter] [--in-place] [FILE]\n"
+    "Usage: quindar-cli [--enter] [--in-place] [--save DOC.qnd] [FILE]\n"
     "       quindar-cli --integrate EXPR VAR LOW HIGH [--accuracy A] [OPTIONS] [FILE]\n"
     "       quindar-cli --derivative EXPR VAR AT [--order N] [--step H] [OPTIONS] [FILE]\n"
     "       quindar-cli --root EXPR VAR LOW HIGH [OPTIONS] [FILE]\n"
     "Computes every line of FILE (standard input when FILE is missing or \"-\") in a Math\n"
     "Editor and prints the resulting text: each answer is written behind its line (\"2+3\"\n"
     "gives \"2+3 = 5\"), an old answer is replaced, comments and \"//\" lines stay.\n"
+    "A FILE ending in \".qnd\" is a document: its variables and functions are declared\n"
+    "before its text is computed, and --in-place saves the whole document back.\n"
     "\n"
     "  --enter      type each line and press Enter instead of pressing F4 on it; every\n"
     "               line then ends in a line break\n"
     "  --in-place   write the result back to FILE instead of standard output\n"
+    "  --save DOC.qnd  also save the computed work (text, variables, functions,\n"
+    "               settings and graphs) as the document DOC.qnd\n"
     "  -h, --help   show this text\n"
     "\n"
     "Numeric computations print one value. EXPR is mapped once and solved at each sample;\n"
@@ -93,6 +97,10 @@ std::optional<Options> ParseOptions(const std::vector<std::string> &arguments, s
         } else if (!optionsEnded && argument == "--radians") {
             calculus.radians = true;
             settingsGiven.push_back(argument);
+        } else if (!optionsEnded && argument == "--save") {
+            const std::string *value = OptionValue(arguments, at, error);
+            if (value == nullptr) return std::nullopt;
+            options.savePath = *value;
         } else if (!optionsEnded && argument == "--") {
             optionsEnded = true;
         } else if (!optionsEnded && (argument == "--help" || argument == "-h")) {
@@ -117,8 +125,9 @@ std::optional<Options> ParseOptions(const std::vector<std::string> &arguments, s
         calculus.kind = options.calculus->kind;
         calculus.operands = options.calculus->operands;
         options.calculus = calculus;
-        if (options.inPlace) {
-            error = "--in-place does not go with a numeric computation";
+        if (options.inPlace || !options.savePath.empty()) {
+            error = std::string(options.inPlace ? "--in-place" : "--save") +
+                    " does not go with a numeric computation";
             return std::nullopt;
         }
     } else if (!settingsGiven.empty()) {

@@ -22,6 +22,7 @@ struct Options {
     bool inPlace = false;
     RunKey key = RunKey::F4;
     std::string path = "-";  // "-" is standard input
+    std::string savePath;    // --save: the processed work as a document, when not empty
     bool havePath = false;
     // A numeric computation instead of printing the text; the text then only sets up the
     // engine, and only when FILE is given.

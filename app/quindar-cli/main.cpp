@@ -6,8 +6,11 @@
 #include <string>
 #include <vector>
 
+#include "cli_calculus.h"
+#include "cli_document.h"
 #include "cli_files.h"
 #include "cli_options.h"
+#include "memory_text_buffer.h"
 #include "parser.h"
 #include "program_folders.h"
 #include "text_run.h"
@@ -15,29 +18,54 @@
 
 namespace {
 
+using namespace quindar;
+
 int Fail(const std::string &message) {
     std::cerr << "quindar-cli: " << message << '\n';
     return 2;
 }
 
-void ReportFailures(const quindar::TextRun &run) {
-    for (const std::string &warning : run.warnings) std::cerr << "quindar-cli: " << warning << '\n';
-    for (const quindar::LineFailure &failure : run.failures)
+void Warn(const std::vector<std::string> &warnings) {
+    for (const std::string &warning : warnings) std::cerr << "quindar-cli: " << warning << '\n';
+}
+
+void ReportFailures(const TextRun &run) {
+    Warn(run.warnings);
+    for (const LineFailure &failure : run.failures)
         std::cerr << failure.line << ": " << failure.message << '\n';
 }
 
+// The input of a run: a document, whose declarations are then in the engine, or a text.
+struct Work {
+    bool isDocument = false;
+    DocumentContent document;
+    std::string text;
+    std::vector<std::string> loadMessages;
+};
+
+bool LoadWork(const std::string &path, Parser &parser, Work &work, std::string &error) {
+    work.isDocument = cli::IsDocumentPath(path);
+    if (work.isDocument) {
+        const bool loaded =
+            cli::LoadDocument(path, parser, work.document, work.loadMessages, error);
+        for (const std::string &message : work.loadMessages)
+            std::cerr << path << ": " << message << '\n';
+        work.text = work.document.text;
+        return loaded;
+    }
+    auto text = cli::ReadInput(path, error);
+    if (!text) return false;
+    work.text = std::move(*text);
+    return true;
+}
+
 // A numeric computation on the engine of FILE, when one is given.
-int Compute(const quindar::cli::Options &options) {
-    using namespace quindar;
-    const std::string libraries = library_folder(QUINDAR_SOURCE_LIBRARY_DIR);
-    Parser parser(libraries.c_str(), libraries.c_str());
-    for (const std::string &warning : OpenLibraries(parser, libraries))
-        std::cerr << "quindar-cli: " << warning << '\n';
+int Compute(const cli::Options &options, Parser &parser) {
     std::string error;
     if (options.havePath) {
-        const auto input = cli::ReadInput(options.path, error);
-        if (!input) return Fail(error);
-        ReportFailures(RunText(*input, options.key, parser));
+        Work work;
+        if (!LoadWork(options.path, parser, work, error)) return Fail(error);
+        ReportFailures(RunText(work.text, options.key, parser));
     }
     std::string value;
     switch (cli::RunCalculus(parser, *options.calculus, value, error)) {
@@ -56,7 +84,6 @@ int Compute(const quindar::cli::Options &options) {
 }  // namespace
 
 int main(int argc, char **argv) {
-    using namespace quindar;
     std::string error;
     const auto options = cli::ParseOptions(std::vector<std::string>(argv + 1, argv + argc), error);
     if (!options) return Fail(error + "\n" + cli::kUsage + "Try \"quindar-cli --help\".");
@@ -64,20 +91,30 @@ int main(int argc, char **argv) {
         std::cout << cli::kHelp;
         return 0;
     }
-    if (options->calculus) return Compute(*options);
-    const auto input = cli::ReadInput(options->path, error);
-    if (!input) return Fail(error);
 
-    // The user library is made when missing, as the desktop program does at its start.
     const std::string libraries = library_folder(QUINDAR_SOURCE_LIBRARY_DIR);
+    // The user library is made when missing, as the desktop program does at its start.
     create_user_library(libraries);
-    const TextRun run = RunText(*input, options->key, libraries);
-    if (options->inPlace) {
+    Parser parser(libraries.c_str(), libraries.c_str());
+    Warn(OpenLibraries(parser, libraries));
+    if (options->calculus) return Compute(*options, parser);
+
+    Work work;
+    if (!LoadWork(options->path, parser, work, error)) return Fail(error);
+    const TextRun run = RunText(work.text, options->key, parser);
+    // A document holds its text with CR LF line ends, whatever the input had.
+    work.document.text = ToCrLf(run.text);
+    if (options->inPlace && work.isDocument) {
+        if (!cli::SaveDocument(options->path, parser, work.document, error)) return Fail(error);
+    } else if (options->inPlace) {
         if (!cli::ReplaceFile(options->path, run.text, error)) return Fail(error);
     } else {
         std::cout << run.text << std::flush;
         if (!std::cout) return Fail("cannot write standard output");
     }
+    if (!options->savePath.empty() &&
+        !cli::SaveDocument(options->savePath, parser, work.document, error))
+        return Fail(error);
     ReportFailures(run);
-    return run.failures.empty() ? 0 : 1;
+    return run.failures.empty() && work.loadMessages.empty() ? 0 : 1;
 }

@@ -41,12 +41,8 @@ std::uint8_t low_byte(long value) {
 
 }  // namespace
 
-IniFile::IniFile(const char *path) : fileName(path != nullptr ? path : "") {}
-
-bool IniFile::GetColor(const char *section, const char *key, TColor deflt, TColor &value) const {
-    char text[kColorTextLength + 1];
-    GetPrivateProfileString(section, key, "", text, sizeof text, fileName.c_str());
-    std::string_view rest(text);
+bool color_from_text(std::string_view text, TColor deflt, TColor &value) {
+    std::string_view rest = text.substr(0, kColorTextLength);
     value = deflt;
     if (rest.empty()) return false;
     std::string_view fields[3];
@@ -65,16 +61,13 @@ bool IniFile::GetColor(const char *section, const char *key, TColor deflt, TColo
     return true;
 }
 
-bool IniFile::GetPoint(const char *section, const char *key, char *x, char *y, char *z,
-                       int size) const {
+bool point_from_text(std::string_view text, char *x, char *y, char *z, int size) {
     char *outputs[3] = {x, y, z};
     const std::size_t room = size > 0 ? static_cast<std::size_t>(size) : 0;
     for (char *output : outputs) {
         if (output != nullptr && room > 0) output[0] = '\0';
     }
-    char buffer[kPointBufferSize];
-    GetPrivateProfileString(section, key, "", buffer, sizeof buffer, fileName.c_str());
-    std::string_view rest(buffer);
+    std::string_view rest = text.substr(0, kPointBufferSize - 1);
     bool stored = false;
     for (int i = 0; i < 3; ++i) {
         std::size_t comma = rest.find(',');
@@ -88,6 +81,21 @@ bool IniFile::GetPoint(const char *section, const char *key, char *x, char *y, c
         rest.remove_prefix(comma + 1);
     }
     return stored;
+}
+
+IniFile::IniFile(const char *path) : fileName(path != nullptr ? path : "") {}
+
+bool IniFile::GetColor(const char *section, const char *key, TColor deflt, TColor &value) const {
+    char text[kColorTextLength + 1];
+    GetPrivateProfileString(section, key, "", text, sizeof text, fileName.c_str());
+    return color_from_text(text, deflt, value);
+}
+
+bool IniFile::GetPoint(const char *section, const char *key, char *x, char *y, char *z,
+                       int size) const {
+    char buffer[kPointBufferSize];
+    GetPrivateProfileString(section, key, "", buffer, sizeof buffer, fileName.c_str());
+    return point_from_text(buffer, x, y, z, size);
 }
 
 }  // namespace quindar

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "color.h"
 
@@ -10,6 +11,11 @@ namespace quindar {
 
 // A named settings file. Single keys are read and written with the profile calls on
 // GetFileName(); this class adds the two value forms that take more than one field.
+// The value forms of GetColor and GetPoint applied to a value already read (a colour's value
+// at most 27 characters, a point's at most 127, as those read them).
+bool color_from_text(std::string_view text, TColor deflt, TColor &value);
+bool point_from_text(std::string_view text, char *x, char *y, char *z, int size);
+
 class IniFile {
 public:
     explicit IniFile(const char *path);

@@ -127,6 +127,12 @@ std::vector<std::string> profile_sections(const std::string &path) {
     return text.section_names();
 }
 
+std::string profile_with_key(std::string content, std::string_view section, std::string_view key,
+                             std::string_view value) {
+    ProfileText text(std::move(content));
+    return set_key(text, text::trim(section), text::trim(key), value);
+}
+
 int profile_int(std::string_view value, int deflt) {
     value = text::trim(value);
     std::size_t at = 0;
@@ -155,7 +161,15 @@ std::size_t GetPrivateProfileString(const char *section, const char *key, const 
     std::string file = path != nullptr ? path : "";
     if (section == nullptr) return pack_profile_list(profile_sections(file), buffer, size);
     if (key == nullptr) return pack_profile_list(profile_keys(file, section), buffer, size);
-    if (auto value = profile_value(file, section, key)) return copy_cut(*value, buffer, size);
+    const auto value = profile_value(file, section, key);
+    return copy_profile_value(value ? std::optional<std::string_view>(*value) : std::nullopt, deflt,
+                              buffer, size);
+}
+
+std::size_t copy_profile_value(std::optional<std::string_view> value, const char *deflt,
+                               char *buffer, std::size_t size) {
+    if (buffer == nullptr || size == 0) return 0;
+    if (value) return copy_cut(*value, buffer, size);
     std::string_view fallback = deflt != nullptr ? deflt : "";
     std::size_t n = fallback.size();
     while (n > 0 && text::is_blank(fallback[n - 1])) --n;

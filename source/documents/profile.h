@@ -42,6 +42,15 @@ std::optional<std::string> profile_value(const std::string &path, std::string_vi
 std::vector<std::string> profile_keys(const std::string &path, std::string_view section);
 std::vector<std::string> profile_sections(const std::string &path);
 
+// What WritePrivateProfileString makes of a content when it sets key=value in the section,
+// for writers that build a whole file in memory. The caller checks names and value first.
+std::string profile_with_key(std::string content, std::string_view section, std::string_view key,
+                             std::string_view value);
+
+// What GetPrivateProfileString stores for a value found (or for none: the default).
+std::size_t copy_profile_value(std::optional<std::string_view> value, const char *deflt,
+                               char *buffer, std::size_t size);
+
 // The integer reading of GetPrivateProfileInt applied to a text.
 int profile_int(std::string_view value, int deflt);
 

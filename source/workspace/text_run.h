@@ -43,4 +43,8 @@ TextRun RunText(std::string_view input, RunKey key, Parser &parser);
 // opened comes back as warnings.
 std::vector<std::string> OpenLibraries(Parser &parser, const std::string &libraryFolder);
 
+class Parser;
+// The same with an engine that already holds declarations, such as a loaded document's.
+TextRun RunText(std::string_view input, RunKey key, Parser &parser);
+
 }  // namespace quindar

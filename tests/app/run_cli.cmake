@@ -3,7 +3,9 @@
 #   CLI     the program
 #   WORK    a folder of this test's own
 #   MODE    file | enter | stdin | in-place: compute INPUT and compare with EXPECTED (and
-#           ERRORS, when that file exists); usage: run with ARGS (and ARGS2) and check CODE,
+#           ERRORS, when that file exists); document: the same with --save, and the saved
+#           document compared with SAVED; document-in-place: INPUT, a document, computed
+#           in place must become SAVED; usage: run with ARGS (and ARGS2) and check CODE,
 #           and that
 #           standard output holds STDOUT_HAS or standard error STDERR_HAS, or standard
 #           output is exactly STDOUT_IS; "|" separates several arguments in ARGS
@@ -76,6 +78,29 @@ elseif(MODE STREQUAL "enter")
 elseif(MODE STREQUAL "stdin")
     execute_process(COMMAND ${CLI} - INPUT_FILE ${INPUT} OUTPUT_FILE ${out} ERROR_FILE ${err}
         RESULT_VARIABLE code)
+elseif(MODE STREQUAL "document")
+    set(saved ${WORK}/saved.qnd)
+    execute_process(COMMAND ${CLI} --save ${saved} ${INPUT} OUTPUT_FILE ${out} ERROR_FILE ${err}
+        RESULT_VARIABLE code)
+    if(NOT EXISTS ${saved})
+        fail("no document saved")
+    endif()
+    same_file(${saved} ${SAVED} "the saved document")
+elseif(MODE STREQUAL "document-in-place")
+    set(copy ${WORK}/document.qnd)
+    file(COPY_FILE ${INPUT} ${copy})
+    execute_process(COMMAND ${CLI} --in-place ${copy} OUTPUT_FILE ${out} ERROR_FILE ${err}
+        RESULT_VARIABLE code)
+    file(SIZE ${out} printed)
+    if(NOT printed EQUAL 0)
+        fail("--in-place printed the text")
+    endif()
+    file(GLOB left_over ${WORK}/document.qnd.*)
+    if(left_over)
+        fail("temporary files left: ${left_over}")
+    endif()
+    set(out ${copy})
+    set(EXPECTED ${SAVED})
 elseif(MODE STREQUAL "in-place")
     set(copy ${WORK}/document.txt)
     file(COPY_FILE ${INPUT} ${copy})

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// ProfileSnapshot: the profile rules over a file taken apart once.
+#include "profile_snapshot.h"
+
+#include "ini_file.h"
+#include "multi_string.h"
+#include "profile.h"
+
+namespace quindar {
+
+namespace {
+
+// The buffers GetColor and GetPoint read their values into.
+constexpr std::size_t kColorBuffer = 28;
+constexpr std::size_t kPointBuffer = 128;
+
+}  // namespace
+
+std::optional<std::string_view> ProfileSnapshot::Value(std::string_view section,
+                                                       std::string_view key) const {
+    const ProfileText::Section *found = text.find_section(section);
+    if (found == nullptr) return std::nullopt;
+    const std::size_t line = text.find_key(*found, key);
+    if (line == ProfileText::npos) return std::nullopt;
+    return text.lines()[line].value;
+}
+
+std::string ProfileSnapshot::String(const char *section, const char *key, const char *deflt,
+                                    std::size_t size) const {
+    std::vector<char> buffer(size > 0 ? size : 1, '\0');
+    const std::size_t n =
+        copy_profile_value(Value(section, key), deflt, buffer.data(), buffer.size());
+    return std::string(buffer.data(), n);
+}
+
+int ProfileSnapshot::Int(const char *section, const char *key, int deflt) const {
+    const auto value = Value(section, key);
+    return value ? profile_int(*value, deflt) : deflt;
+}
+
+bool ProfileSnapshot::Color(const char *section, const char *key, TColor deflt,
+                            TColor &value) const {
+    return color_from_text(String(section, key, "", kColorBuffer), deflt, value);
+}
+
+bool ProfileSnapshot::Point(const char *section, const char *key, char *x, char *y, char *z,
+                            int size) const {
+    return point_from_text(String(section, key, "", kPointBuffer), x, y, z, size);
+}
+
+std::vector<std::string> ProfileSnapshot::Keys(std::string_view section) const {
+    const ProfileText::Section *found = text.find_section(section);
+    return found != nullptr ? text.key_names(*found) : std::vector<std::string>{};
+}
+
+std::vector<std::string> ProfileSnapshot::KeyList(std::string_view section,
+                                                  std::size_t size) const {
+    std::vector<char> buffer(size > 0 ? size : 1, '\0');
+    pack_profile_list(Keys(section), buffer.data(), buffer.size());
+    return split_multi_string(buffer.data(), buffer.size());
+}
+
+}  // namespace quindar
