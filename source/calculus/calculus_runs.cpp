@@ -66,6 +66,14 @@ bool EvaluateLimit(Parser &parser, const std::string &text, const std::string &v
     return true;
 }
 
+// Both ends of a range, the high one first as the pages read them.
+bool EvaluateRange(Parser &parser, const std::string &lowText, const std::string &highText,
+                   const std::string &variable, long double &low, long double &high,
+                   std::string &error) {
+    return EvaluateLimit(parser, highText, variable, kImaginaryLimit, high, error) &&
+           EvaluateLimit(parser, lowText, variable, kImaginaryLimit, low, error);
+}
+
 std::string TakeError(Parser &parser) {
     std::string text = parser.GetLastError() ? parser.GetLastError() : "";
     parser.ClearLastError();
@@ -107,8 +115,7 @@ Outcome Integrate(Parser &parser, const IntegralRequest &request) {
     long double low = 0.0L;
     long double high = 0.0L;
     std::string error;
-    if (!EvaluateLimit(parser, request.high, request.variable, kImaginaryLimit, high, error) ||
-        !EvaluateLimit(parser, request.low, request.variable, kImaginaryLimit, low, error))
+    if (!EvaluateRange(parser, request.low, request.high, request.variable, low, high, error))
         return Failure(error);
     if (low == high) return Failure(message(kEqualXLimits));
     if (low > high) std::swap(low, high);
@@ -158,8 +165,7 @@ Outcome FindRoot(Parser &parser, const RootRequest &request) {
     long double low = 0.0L;
     long double high = 0.0L;
     std::string error;
-    if (!EvaluateLimit(parser, request.low, request.variable, kImaginaryLimit, low, error) ||
-        !EvaluateLimit(parser, request.high, request.variable, kImaginaryLimit, high, error))
+    if (!EvaluateRange(parser, request.low, request.high, request.variable, low, high, error))
         return Failure(error);
     MappedExpression mapped(parser, request.expression, request.variable, low, kAssignOrIntegrate);
     if (!mapped.ok()) return Failure(mapped.error_text());
