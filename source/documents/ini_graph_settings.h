@@ -2,6 +2,7 @@
 // The settings file as the source of new graphs' default colours and orientation.
 #pragma once
 
+#include "app_settings.h"
 #include "graph_settings.h"
 #include "ini_file.h"
 
@@ -12,6 +13,8 @@ namespace quindar {
 class IniGraphSettings final : public GraphSettings {
 public:
     explicit IniGraphSettings(const char *path) : file(path) {}
+    // The application's settings file in the user's configuration folder.
+    IniGraphSettings() : IniGraphSettings(settings_file_path().c_str()) {}
 
     int GetInt(const char *section, const char *key, int deflt) const override;
     bool GetColor(const char *section, const char *key, TColor deflt, TColor &value) const override;

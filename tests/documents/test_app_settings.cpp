@@ -5,11 +5,14 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <filesystem>
 #include <optional>
 #include <string>
 
 #include "app_settings.h"
 #include "documents_test_support.h"
+#include "graph_data.h"
+#include "ini_graph_settings.h"
 #include "profile.h"
 
 namespace quindar {
@@ -191,6 +194,15 @@ TEST(SettingsFile, AFileThatCannotBeWrittenKeepsItsDefaults) {
     const AppSettings settings(folder.file("plain") + "/quindar/Quindar.ini");
     EXPECT_FALSE(settings.Write(settings::kSound, false));
     EXPECT_TRUE(settings.Sound());
+}
+
+TEST_F(Settings, NewGraphsTakeTheirDefaultsFromTheUsersSettingsFile) {
+    std::filesystem::create_directories(folder.file("quindar"));
+    testing::write_content(file, "[Graph Default Colors]\r\nBackground=10,20,30\r\n");
+    IniGraphSettings graphSettings;
+    GraphList list;
+    const GraphData *graph = add_new_graph(list, "G", &graphSettings);
+    EXPECT_EQ(graph->BackgroundColor, TColor(10, 20, 30));
 }
 
 }  // namespace
