@@ -3,6 +3,7 @@
 #include "cli_calculus.h"
 
 #include <charconv>
+#include <cmath>
 #include <sstream>
 
 #include "calculus_runs.h"
@@ -30,14 +31,17 @@ const CalculusOption &OptionOf(CalculusKind kind) {
     return kCalculusOptions[0];
 }
 
+// A plain number in C form ("1e-3" too): these are settings, not expressions.
 bool ReadNumber(const std::optional<std::string> &text, const char *what, long double &value,
                 std::string &error) {
     if (!text) return true;
-    if (text->empty() || !Mathematics::is_number(text->c_str())) {
+    long double read = 0.0L;
+    const auto [end, code] = std::from_chars(text->data(), text->data() + text->size(), read);
+    if (code != std::errc() || end != text->data() + text->size() || !std::isfinite(read)) {
         error = std::string(what) + " \"" + *text + "\" is not a number";
         return false;
     }
-    value = Mathematics::_atold(text->c_str());
+    value = read;
     return true;
 }
 
