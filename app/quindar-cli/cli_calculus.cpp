@@ -77,7 +77,6 @@ int RunCalculus(Parser &parser, const CalculusOptions &options, std::string &out
     const std::vector<std::string> &operand = options.operands;
     int precision = OptionOf(options.kind).precision;
     if (!ReadWhole(options.precision, "--precision", 1, 14, precision, error)) return kBadOption;
-    if (options.radians) parser.angle_mode = 1;
     calculus::Outcome outcome;
     switch (options.kind) {
         case CalculusKind::Integrate: {

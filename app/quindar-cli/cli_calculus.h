@@ -19,7 +19,6 @@ struct CalculusOptions {
     CalculusKind kind = CalculusKind::Integrate;
     std::vector<std::string> operands;  // EXPR VAR and the limits or the point
     std::optional<std::string> accuracy, order, step, precision;
-    bool radians = false;
 };
 
 // The option's name ("--integrate") and the number of operands it takes, or 0 when the

@@ -5,13 +5,13 @@
 namespace quindar::cli {
 
 const char *const kUsage =
-    "Usage: quindar-cli [--enter] [--in-place] [--save DOC.qnd] [FILE]\n"
+    "Usage: quindar-cli [--enter] [--in-place] [--radians] [--save DOC.qnd] [FILE]\n"
     "       quindar-cli --integrate EXPR VAR LOW HIGH [--accuracy A] [OPTIONS] [FILE]\n"
     "       quindar-cli --derivative EXPR VAR AT [--order N] [--step H] [OPTIONS] [FILE]\n"
     "       quindar-cli --root EXPR VAR LOW HIGH [OPTIONS] [FILE]\n";
 
 const char *const kHelp =
-    "Usage: quindar-cli [--enter] [--in-place] [--save DOC.qnd] [FILE]\n"
+    "Usage: quindar-cli [--enter] [--in-place] [--radians] [--save DOC.qnd] [FILE]\n"
     "       quindar-cli --integrate EXPR VAR LOW HIGH [--accuracy A] [OPTIONS] [FILE]\n"
     "       quindar-cli --derivative EXPR VAR AT [--order N] [--step H] [OPTIONS] [FILE]\n"
     "       quindar-cli --root EXPR VAR LOW HIGH [OPTIONS] [FILE]\n"
@@ -24,6 +24,7 @@ const char *const kHelp =
     "  --enter      type each line and press Enter instead of pressing F4 on it; every\n"
     "               line then ends in a line break\n"
     "  --in-place   write the result back to FILE instead of standard output\n"
+    "  --radians    angles in radians (degrees unless a document says otherwise)\n"
     "  --save DOC.qnd  also save the computed work (text, variables, functions,\n"
     "               settings and graphs) as the document DOC.qnd\n"
     "  -h, --help   show this text\n"
@@ -37,7 +38,7 @@ const char *const kHelp =
     "                extrapolated central differences from the starting step --step (0.1)\n"
     "  --root        a root between LOW and HIGH, where EXPR must change sign\n"
     "  --precision   digits of the value, 1 to 14 (6, or 14 for a root)\n"
-    "  --radians     circular functions in radians (degrees unless given)\n"
+
     "\n"
     "A line that fails stays as typed and its error goes to standard error as\n"
     "\"LINE: message\". Exit status: 0 when every line computed, 1 when a line failed,\n"
@@ -95,8 +96,7 @@ std::optional<Options> ParseOptions(const std::vector<std::string> &arguments, s
             *setting = *value;
             settingsGiven.push_back(argument);
         } else if (!optionsEnded && argument == "--radians") {
-            calculus.radians = true;
-            settingsGiven.push_back(argument);
+            options.radians = true;
         } else if (!optionsEnded && argument == "--save") {
             const std::string *value = OptionValue(arguments, at, error);
             if (value == nullptr) return std::nullopt;

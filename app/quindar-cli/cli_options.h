@@ -20,6 +20,8 @@ extern const char *const kHelp;
 struct Options {
     bool help = false;
     bool inPlace = false;
+    // Angles in radians, also over a document's own setting.
+    bool radians = false;
     RunKey key = RunKey::F4;
     std::string path = "-";  // "-" is standard input
     std::string savePath;    // --save: the processed work as a document, when not empty

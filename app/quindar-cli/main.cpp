@@ -65,8 +65,11 @@ int Compute(const cli::Options &options, Parser &parser) {
     if (options.havePath) {
         Work work;
         if (!LoadWork(options.path, parser, work, error)) return Fail(error);
+        if (options.radians) parser.angle_mode = 1;
         ReportFailures(RunText(work.text, options.key, parser));
     }
+    // Without a document the setting has not been applied yet.
+    if (options.radians) parser.angle_mode = 1;
     std::string value;
     switch (cli::RunCalculus(parser, *options.calculus, value, error)) {
         case 0:
@@ -101,6 +104,7 @@ int main(int argc, char **argv) {
 
     Work work;
     if (!LoadWork(options->path, parser, work, error)) return Fail(error);
+    if (options->radians) parser.angle_mode = 1;
     const TextRun run = RunText(work.text, options->key, parser);
     // A document holds its text with CR LF line ends, whatever the input had.
     work.document.text = ToCrLf(run.text);
