@@ -133,6 +133,21 @@ TEST_F(LibraryCalls, AnEditedUserLibraryCountsAtTheNextLine) {
     EXPECT_EQ(evaluate(parser, "NEWONE[2]"), " = 1");
 }
 
+TEST_F(LibraryCalls, AnEditOfTheSameSizeWithinTheSameMomentCountsToo) {
+    // Answers are kept between lines only while the file's bytes stay the same: neither its
+    // time (too coarse for two quick writes) nor its size decides.
+    for (int round = 0; round < 3; ++round) {
+        folder.write("QuindarUser.lib", "[MINE]\nCUBE[x]=x^3+1\n");
+        EXPECT_EQ(evaluate(parser, "CUBE[2]"), " = 9");
+        EXPECT_EQ(evaluate(parser, "CUBE[2]"), " = 9");
+        folder.write("QuindarUser.lib", "[MINE]\nCUBE[x]=x^3+2\n");
+        EXPECT_EQ(evaluate(parser, "CUBE[2]"), " = 10");
+        EXPECT_EQ(evaluate(parser, "NOSUCH[2]"), "' NOSUCH ' can not be identified as a function!");
+    }
+    std::filesystem::remove(folder.path() + "/QuindarUser.lib");
+    EXPECT_EQ(evaluate(parser, "CUBE[2]"), "' CUBE ' can not be identified as a function!");
+}
+
 struct ShownBox {
     std::string text;
     std::string caption;
