@@ -169,6 +169,49 @@ TEST_F(StatisticsTest, ModeByRepeatsThenByFrequencyClasses) {
     EXPECT_STREQ(stats.GetLastError(), "No statistical Mode could be identified!");
 }
 
+// Few points without repeats warn before the frequency classes; a No stops the warning for
+// every engine, and a silent engine never shows it.
+TEST_F(StatisticsTest, ModeWarnsAboutFewPointsUntilTheAnswerIsNo) {
+    struct Shown {
+        std::string text, caption;
+        MessageStyle style;
+    };
+    std::vector<Shown> shown;
+    MessageHook hook = [&shown](std::string_view text, std::string_view caption,
+                                MessageStyle style) {
+        shown.push_back({std::string(text), std::string(caption), style});
+        return false;
+    };
+    stats.link_engine({&hook, nullptr});
+    Statistics::set_mode_warning(true);
+
+    stats.silent = true;
+    EXPECT_EQ(stats.mode(list_of(list, {1, 2, 4, 8, 9})), 3);
+    EXPECT_TRUE(shown.empty());
+    stats.silent = false;
+    EXPECT_EQ(stats.mode(list_of(list, {1, 2, 2, 9})), 2);  // a repeat needs no warning
+    EXPECT_TRUE(shown.empty());
+    std::vector<long double> squares;
+    for (int k = 0; k < 23; ++k) squares.push_back(k * k);
+    fill(list, squares);
+    stats.mode(list);  // 23 points are enough
+    EXPECT_TRUE(shown.empty());
+
+    EXPECT_EQ(stats.mode(list_of(list, {1, 2, 4, 8, 9})), 3);
+    ASSERT_EQ(shown.size(), 1u);
+    EXPECT_EQ(shown[0].caption, "Statistics Warning");
+    EXPECT_EQ(shown[0].text,
+              "You are using a statistically insignificant number of data points to compute the "
+              "mode with variable data, therefore the results may be inaccurate.\r\n\r\n If you "
+              "do not want to see this message again, click the no button.");
+    EXPECT_EQ(shown[0].style, MessageStyle::Question);
+    EXPECT_FALSE(Statistics::mode_warning());
+
+    EXPECT_EQ(stats.mode(list_of(list, {1, 2, 4, 8, 9})), 3);
+    EXPECT_EQ(shown.size(), 1u);
+    Statistics::set_mode_warning(true);
+}
+
 TEST(FrequencyTest, ClassBounds) {
     Frequency open(1, 5, false), closed(5, 9, true);
     EXPECT_TRUE(open.addDataPoint(1));
