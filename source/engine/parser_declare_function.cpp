@@ -115,10 +115,9 @@ void Parser::declare_function() {
         value += spelling(token, token_type);
         previous_type = token_type;
     }
-    if (find_function(full_name.c_str()) < 0) {
-        add_new_function(full_name.c_str(), nullptr);
-        record(Instruction::AddFunction, {}, full_name.c_str());
-    }
+    if (find_function(full_name.c_str()) < 0) add_new_function(full_name.c_str(), nullptr);
+    // Recorded even for a function that exists now: the map adds it again if it has gone.
+    record(Instruction::AddFunction, {}, full_name.c_str());
     assignment_made = true;
     find_function(full_name.c_str());
     record(Instruction::FindFunction, {}, full_name.c_str());

@@ -83,7 +83,7 @@ long double Parser::Derivative(int map, const char *var, const long double &x, c
         }
         const long double t = real_abs(real_sub(a[i][i], a[i - 1][i - 1]));
         if (holds_at_or_below(real_abs(err), real_mult(tolerance, t))) break;
-        const long double size = std::fabs(err) + std::fabs(t);
+        const long double size = real_abs(err) + real_abs(t);
         if (holds_at_or_below(size, answer_format->zero_precision)) break;
         if (stop_requested()) break;
     }

@@ -60,7 +60,7 @@ long double Parser::RombIntegrate(int map, const char *var, long double low, lon
             if (IsAnError() || stop_requested()) return 0.0L;
             if (j == kExtrapolationPoints) prev = dss;
             if (holds_at_or_below(real_abs(dss), real_mult(accuracy, real_abs(ss)))) return ss;
-            const long double size = std::fabs(dss) + std::fabs(ss);
+            const long double size = real_abs(dss) + real_abs(ss);
             if (holds_at_or_below(size, answer_format->zero_precision)) return 0.0L;
             if (holds_below(real_abs(prev), real_abs(dss))) return ss;
             prev = dss;

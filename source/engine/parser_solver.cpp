@@ -100,8 +100,12 @@ complex Parser::solve_equation(int map, bool /*restart*/, bool silentMode) {
     run.stack.reserve(16);
     SetSolvingMap(true);
     try {
-        for (const Instruction op : equation.instructions)
-            if (!MapSolver::execute(*this, run, op) || IsAnError()) break;
+        for (const Instruction op : equation.instructions) {
+            // A failed parameter test or a mapper error of the run returns 0 at once; a
+            // worker that raised leaves its value on the top, as the run's result.
+            if (!MapSolver::execute(*this, run, op)) return complex{};
+            if (IsAnError()) break;
+        }
     } catch (const EvaluationAbort &) {
         // Only the containers can still jump here; their message is stored already.
         if (!IsAnError()) SetLastError(nullptr, -1);

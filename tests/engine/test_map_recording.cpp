@@ -108,6 +108,15 @@ TEST_F(MapRecording, UserFunctionsAreSplicedIntoTheMap) {
     parser.eval_exp("g[t] = t*2", true, false);
     const Equation &map = map_of("g[x]+1");
     EXPECT_EQ(codes_of(map), (std::vector<int>{0x06, 0x0C, 0x18, 0x0C, 0x15, 0x88}));
+    // A declaration of a function that exists still records its addition, so the map
+    // brings the function back once it has been deleted.
+    const int redeclared = record_map(parser, "g[t] = t*3");
+    ASSERT_GT(redeclared, 0);
+    EXPECT_EQ(codes_of(*parser.equation_at(redeclared)),
+              (std::vector<int>{0x07, 0x09, 0x08, 0x88}));
+    parser.delete_function(parser.find_function("g[t]"));
+    parser.solve_equation(redeclared, false, true);
+    EXPECT_STREQ(parser.get_func_value("g[t]"), "t*3");
 }
 
 TEST_F(MapRecording, SetInstructionKeepsOperandsOfItsKind) {
