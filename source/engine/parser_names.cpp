@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 // Library functions: the two library files, and the look-up of a name in them, category by
-// category, system library first. Nothing is cached, so a change to a file counts at once.
+// category, system library first. The engine keeps nothing of a file: a change counts at once.
 #include <filesystem>
 #include <fstream>
 
