@@ -2,23 +2,16 @@
 // Handlers of the random deviates: their forms, the checks of their parameters, then the draw.
 #include "embedded_calls.h"
 #include "parser.h"
+#include "statistics_rules.h"
 
 namespace quindar {
 
 namespace {
-constexpr int kNoParameters = 2, kTooMany = 7, kProbability = 40, kAlphaPositive = 41,
-              kBetaPositive = 42, kTrialsPositive = 43, kDofPositive = 44, kDofAboveOne = 45,
-              kNoncentrality = 46;
+constexpr int kNoParameters = 2, kTooMany = 7;
+namespace rules = statistics_rules;
 
 complex real(long double value) {
     return complex{static_cast<double>(value), 0};
-}
-
-// A value test of a deviate's parameters: message `number` when `fails` holds.
-bool refuse(Parser &p, bool fails, int number, int fn) {
-    if (!fails) return false;
-    p.mathlib_exception(number, fn, nullptr);
-    return true;
 }
 
 // The trailing test of the checked forms, after the value tests: true when nothing follows.
@@ -80,7 +73,7 @@ complex EmbeddedCalls::call_berdev(Parser &p, std::ostream &answer) {
     const int fn = index_of("BERDEV");
     complex prob;
     if (!fetch_one_checked(p, answer, prob, fn)) return complex{};
-    if (refuse(p, prob.real < 0 || prob.real > 1, kProbability, fn)) return complex{};
+    if (rules::refuses_probability(p, fn, &prob)) return complex{};
     if (!no_more(p, fn)) return complex{};
     return real(p.berdev(prob.real));
 }
@@ -90,8 +83,8 @@ complex EmbeddedCalls::call_betadev(Parser &p, std::ostream &answer) {
     const int fn = index_of("BETADEV");
     complex a, b;
     if (!fetch_two_checked(p, answer, a, b, fn)) return complex{};
-    if (refuse(p, a.real < 0, kAlphaPositive, fn) || refuse(p, b.real < 0, kBetaPositive, fn))
-        return complex{};
+    const complex shapes[] = {a, b};
+    if (rules::refuses_shapes(p, fn, shapes)) return complex{};
     if (!no_more(p, fn)) return complex{};
     return real(p.betadev(a.real, b.real));
 }
@@ -100,8 +93,8 @@ complex EmbeddedCalls::call_gamdev(Parser &p, std::ostream &answer) {
     const int fn = index_of("GAMDEV");
     complex a, b;
     if (!fetch_two_checked(p, answer, a, b, fn)) return complex{};
-    if (refuse(p, a.real < 0, kAlphaPositive, fn) || refuse(p, b.real < 0, kBetaPositive, fn))
-        return complex{};
+    const complex shapes[] = {a, b};
+    if (rules::refuses_shapes(p, fn, shapes)) return complex{};
     if (!no_more(p, fn)) return complex{};
     return real(p.gamdev(a.real, b.real));
 }
@@ -110,9 +103,8 @@ complex EmbeddedCalls::call_bnldev(Parser &p, std::ostream &answer) {
     const int fn = index_of("BNLDEV");
     complex trials, prob;
     if (!fetch_two_checked(p, answer, trials, prob, fn)) return complex{};
-    if (refuse(p, trials.real <= 0, kTrialsPositive, fn) ||
-        refuse(p, prob.real < 0 || prob.real > 1, kProbability, fn))
-        return complex{};
+    const complex parameters[] = {trials, prob};
+    if (rules::refuses_trials(p, fn, parameters)) return complex{};
     if (!no_more(p, fn)) return complex{};
     return real(p.bnldev(Mathematics::to_int32(trials.real), prob.real));
 }
@@ -129,7 +121,7 @@ complex EmbeddedCalls::call_chidev(Parser &p, std::ostream &answer) {
     const int fn = index_of("CHIDEV");
     complex dof;
     if (!fetch_one_checked(p, answer, dof, fn)) return complex{};
-    if (refuse(p, dof.real <= 0, kDofPositive, fn)) return complex{};
+    if (rules::refuses_nonpositive(p, fn, &dof, 1)) return complex{};
     if (!no_more(p, fn)) return complex{};
     return real(p.chidev(dof.real));
 }
@@ -146,7 +138,8 @@ complex EmbeddedCalls::call_fdev(Parser &p, std::ostream &answer) {
     const int fn = index_of("FDEV");
     complex dfn, dfd;
     if (!fetch_two_checked(p, answer, dfn, dfd, fn)) return complex{};
-    if (refuse(p, dfn.real <= 0 || dfd.real <= 0, kDofPositive, fn)) return complex{};
+    const complex freedoms[] = {dfn, dfd};
+    if (rules::refuses_nonpositive(p, fn, freedoms, 2)) return complex{};
     if (!no_more(p, fn)) return complex{};
     return real(p.fdev(dfn.real, dfd.real));
 }
@@ -163,8 +156,8 @@ complex EmbeddedCalls::call_nchidev(Parser &p, std::ostream &answer) {
     const int fn = index_of("NCHIDEV");
     complex dof, xnonc;
     if (!fetch_two_checked(p, answer, dof, xnonc, fn)) return complex{};
-    if (refuse(p, dof.real <= 1, kDofAboveOne, fn) || refuse(p, xnonc.real < 0, kNoncentrality, fn))
-        return complex{};
+    const complex parameters[] = {dof, xnonc};
+    if (rules::refuses_noncentral(p, fn, parameters)) return complex{};
     if (!no_more(p, fn)) return complex{};
     return real(p.nchidev(dof.real, xnonc.real));
 }

@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Handlers of the statistical functions: lists in braces or data files, and normal parameters.
-#include <cmath>
-
 #include "embedded_calls.h"
 #include "parser.h"
+#include "statistics_rules.h"
 
 namespace quindar {
 
 namespace {
-constexpr int kCommaExpected = 1, kNoParameters = 2, kOneRequired = 3, kTooMany = 7,
-              kNLessThanR = 26, kAlphaAboveOne = 31;
+constexpr int kCommaExpected = 1, kNoParameters = 2, kOneRequired = 3, kTooMany = 7;
 
 complex real(long double value) {
     return complex{static_cast<double>(value), 0};
@@ -118,16 +116,11 @@ complex EmbeddedCalls::call_pvariance(Parser &p, std::ostream &answer) {
     return list_statistic(p, answer, "PVAR",
                           [](Statistics &s, DataList &l) { return s.pvariance(l); });
 }
-// The deviations are double-precision roots of the variances.
 complex EmbeddedCalls::call_sstdev(Parser &p, std::ostream &answer) {
-    return list_statistic(p, answer, "SSTDEV", [](Statistics &s, DataList &l) {
-        return static_cast<long double>(std::sqrt(static_cast<double>(s.svariance(l))));
-    });
+    return list_statistic(p, answer, "SSTDEV", statistics_rules::sample_deviation);
 }
 complex EmbeddedCalls::call_pstdev(Parser &p, std::ostream &answer) {
-    return list_statistic(p, answer, "PSTDEV", [](Statistics &s, DataList &l) {
-        return static_cast<long double>(std::sqrt(static_cast<double>(s.pvariance(l))));
-    });
+    return list_statistic(p, answer, "PSTDEV", statistics_rules::population_deviation);
 }
 complex EmbeddedCalls::call_skew(Parser &p, std::ostream &answer) {
     return list_statistic(p, answer, "SKEW", [](Statistics &s, DataList &l) { return s.skew(l); });
@@ -195,11 +188,7 @@ complex EmbeddedCalls::call_normx(Parser &p, std::ostream &answer) {
         p.check_no_other_parameter(kTooMany, fn);
     }
     if (p.IsAnError()) return complex{};
-    // Only an alpha above 1 is refused; a negative one goes to the search.
-    if (alpha.real > 1) {
-        p.mathlib_exception(kAlphaAboveOne, fn, nullptr);
-        return complex{};
-    }
+    if (statistics_rules::refuses_area_above_one(p, fn, alpha)) return complex{};
     return real(of_list ? p.normx2(list, alpha.real) : p.normx1(mean.real, sd.real, alpha.real));
 }
 
@@ -225,11 +214,8 @@ bool fetch_n_r(Parser &p, std::ostream &answer, complex &n, complex &r, int fn) 
     p.get_two_real_pos_pars(answer, n, r, fn);
     p.check_no_other_parameter(kTooMany, fn);
     if (p.IsAnError()) return false;
-    if (r.real > n.real) {
-        p.mathlib_exception(kNLessThanR, fn, nullptr);
-        return false;
-    }
-    return true;
+    const complex parameters[] = {n, r};
+    return !statistics_rules::refuses_r_above_n(p, fn, parameters);
 }
 }  // namespace
 

@@ -3,11 +3,10 @@
 // The instructions of the statistical functions and the random deviates, with the tests
 // of their parameters that the solver repeats at each run: the same tests, in the same
 // order, as the handlers make in a line, so that a map fails where its line fails.
-#include <cmath>
-
 #include "map_solver.h"
 #include "mathematics.h"
 #include "parser.h"
+#include "statistics_rules.h"
 
 namespace quindar {
 
@@ -16,20 +15,14 @@ namespace {
 using R = MapInstructionRow;
 using I = Instruction;
 constexpr MapForm kValues = MapForm::Values, kNoValues = MapForm::NoValues, kList = MapForm::List;
-constexpr int kMustBeReal = 12, kNonNegativeIntegers = 18, kNBelowR = 26, kProbability = 40,
-              kAlpha = 41, kBeta = 42, kTrials = 43, kDegreesOfFreedom = 44, kAlphaAboveOne = 31,
-              kDofAboveOne = 45, kNoncentrality = 46;
+constexpr int kMustBeReal = 12;
+namespace rules = statistics_rules;
 
-bool fail(Parser &p, int number, int fn) {
-    p.mathlib_exception(number, fn, nullptr);
-    return true;
-}
-
+// The tests of a handler's fetch, then its value tests.
 template <int Count>
 bool real(Parser &p, int fn, const complex *v) {
-    for (int k = 0; k < Count; ++k)
-        if (v[k].imag != 0) return fail(p, kMustBeReal, fn);
-    return false;
+    return p.check_no_imag_compnts(kMustBeReal, fn, v[0], Count > 1 ? v[1] : complex{},
+                                   Count > 2 ? v[2] : complex{}, Count > 3 ? v[3] : complex{});
 }
 
 // WSNORM names no function in its message.
@@ -38,55 +31,35 @@ bool real_unnamed(Parser &p, int, const complex *v) {
 }
 
 bool choose(Parser &p, int fn, const complex *v) {
-    if (real<2>(p, fn, v)) return true;
-    const long double n = v[0].real, r = v[1].real;
-    if (!Mathematics::is_integer(n) || n < 0 || !Mathematics::is_integer(r) || r < 0)
-        return fail(p, kNonNegativeIntegers, fn);
-    if (n < r) return fail(p, kNBelowR, fn);
-    return false;
+    return real<2>(p, fn, v) || p.check_pos_integers(fn, v[0], v[1]) ||
+           rules::refuses_r_above_n(p, fn, v);
 }
 
 bool probability(Parser &p, int fn, const complex *v) {
-    if (real<1>(p, fn, v)) return true;
-    if (v[0].real < 0 || v[0].real > 1) return fail(p, kProbability, fn);
-    return false;
+    return real<1>(p, fn, v) || rules::refuses_probability(p, fn, v);
 }
 
-bool alpha_beta(Parser &p, int fn, const complex *v) {
-    if (real<2>(p, fn, v)) return true;
-    if (v[0].real < 0) return fail(p, kAlpha, fn);
-    if (v[1].real < 0) return fail(p, kBeta, fn);
-    return false;
+bool shapes(Parser &p, int fn, const complex *v) {
+    return real<2>(p, fn, v) || rules::refuses_shapes(p, fn, v);
 }
 
 bool trials(Parser &p, int fn, const complex *v) {
-    if (real<2>(p, fn, v)) return true;
-    if (v[0].real <= 0) return fail(p, kTrials, fn);
-    if (v[1].real < 0 || v[1].real > 1) return fail(p, kProbability, fn);
-    return false;
+    return real<2>(p, fn, v) || rules::refuses_trials(p, fn, v);
 }
 
 template <int Count>
 bool positive(Parser &p, int fn, const complex *v) {
-    if (real<Count>(p, fn, v)) return true;
-    for (int k = 0; k < Count; ++k)
-        if (v[k].real <= 0) return fail(p, kDegreesOfFreedom, fn);
-    return false;
+    return real<Count>(p, fn, v) || rules::refuses_nonpositive(p, fn, v, Count);
 }
 
 bool noncentral(Parser &p, int fn, const complex *v) {
-    if (real<2>(p, fn, v)) return true;
-    if (v[0].real <= 1) return fail(p, kDofAboveOne, fn);
-    if (v[1].real < 0) return fail(p, kNoncentrality, fn);
-    return false;
+    return real<2>(p, fn, v) || rules::refuses_noncentral(p, fn, v);
 }
 
-// The probability of NORMX is its last parameter; only one above 1 is refused.
+// The area of NORMX is its last parameter.
 template <int Count>
 bool normal_area(Parser &p, int fn, const complex *v) {
-    if (real<Count>(p, fn, v)) return true;
-    if (v[Count - 1].real > 1) return fail(p, kAlphaAboveOne, fn);
-    return false;
+    return real<Count>(p, fn, v) || rules::refuses_area_above_one(p, fn, v[Count - 1]);
 }
 
 complex value(long double x) {
@@ -107,11 +80,10 @@ complex of_list_and_value(Parser &p, MapRun &run, const complex *v) {
     return list ? value((p.*Compute)(*list, v[0].real)) : complex{};
 }
 
-// The deviations are double-precision roots of the variances.
-template <long double (Statistics::*Variance)(DataList &)>
-complex deviation(Parser &p, MapRun &run, const complex *) {
+template <long double (*Compute)(Statistics &, DataList &)>
+complex by_rule(Parser &p, MapRun &run, const complex *) {
     DataList *list = run.current_list();
-    return list ? value(std::sqrt(static_cast<double>((p.*Variance)(*list)))) : complex{};
+    return list ? value(Compute(p, *list)) : complex{};
 }
 
 template <int Percent>
@@ -204,8 +176,8 @@ void MapSolver::append_statistics_rows(std::vector<MapInstructionRow> &rows) {
         {I::Rank, "RANK", 1, true, kList, of_list_and_value<&Statistics::rank>, real<1>},
         {I::Svar, "SVAR", 0, true, kList, of_list<&Statistics::svariance>, nullptr},
         {I::Pvar, "PVAR", 0, true, kList, of_list<&Statistics::pvariance>, nullptr},
-        {I::Sstdev, "SSTDEV", 0, true, kList, deviation<&Statistics::svariance>, nullptr},
-        {I::Pstdev, "PSTDEV", 0, true, kList, deviation<&Statistics::pvariance>, nullptr},
+        {I::Sstdev, "SSTDEV", 0, true, kList, by_rule<rules::sample_deviation>, nullptr},
+        {I::Pstdev, "PSTDEV", 0, true, kList, by_rule<rules::population_deviation>, nullptr},
         {I::Nordist, "NORDIST", 3, true, kValues, normpdf, real<3>},
         {I::NorprobValues, "NORPROB", 4, true, kValues, normprob1, real<4>},
         {I::NorprobList, "NORPROB", 2, true, kList, normprob2, real<2>},
@@ -230,13 +202,13 @@ void MapSolver::append_statistics_rows(std::vector<MapInstructionRow> &rows) {
         {I::RaydevValues, "RAYDEV", 2, true, kValues, draw2<&Deviates::rayleighdev>, real<2>},
         {I::RaydevNone, "RAYDEV", 0, true, kNoValues, rayleigh_default, nullptr},
         {I::Berdev, "BERDEV", 1, true, kValues, draw1<&Deviates::berdev>, probability},
-        {I::Betadev, "BETADEV", 2, true, kValues, draw2<&Deviates::betadev>, alpha_beta},
+        {I::Betadev, "BETADEV", 2, true, kValues, draw2<&Deviates::betadev>, shapes},
         {I::Bnldev, "BNLDEV", 2, true, kValues, binomial, trials},
         {I::Caudev, "CAUDEV", 2, true, kValues, draw2<&Deviates::caudev>, real<2>},
         {I::Chidev, "CHIDEV", 1, true, kValues, draw1<&Deviates::chidev>, positive<1>},
         {I::Dexpdev, "DEXPDEV", 2, true, kValues, double_exponential, real<2>},
         {I::Fdev, "FDEV", 2, true, kValues, draw2<&Deviates::fdev>, positive<2>},
-        {I::Gamdev, "GAMDEV", 2, true, kValues, draw2<&Deviates::gamdev>, alpha_beta},
+        {I::Gamdev, "GAMDEV", 2, true, kValues, draw2<&Deviates::gamdev>, shapes},
         {I::Logdev, "LOGDEV", 2, true, kValues, draw2<&Deviates::logdev>, real<2>},
         {I::Nchidev, "NCHIDEV", 2, true, kValues, draw2<&Deviates::nchidev>, noncentral},
     };
