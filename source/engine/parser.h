@@ -424,6 +424,7 @@ private:
     bool holds_at_or_below(long double a, long double b);
     bool holds_below(long double a, long double b);
     bool stop_requested();
+    void run_interface();
     bool application_check_stops();
     bool pump_then_stop_requested();
     ComputationHooks *computation_hooks = nullptr;

@@ -22,10 +22,9 @@ bool Parser::Slope(int map, const char *var, const long double &x, const long do
                    bool silent) {
     const complex noted = get_var_value(var);
     slope = 0.0L;
-    long double f1 = 0.0L;
-    long double f2 = 0.0L;
+    // The values at x + step and x - step.
     const long double points[2] = {real_add(x, step), real_sub(x, step)};
-    long double *values[2] = {&f1, &f2};
+    long double values[2] = {0.0L, 0.0L};
     for (int k = 0; k < 2; ++k) {
         if (order == 1) {
             set_var_value(complex{static_cast<double>(points[k]), 0.0}, var);
@@ -37,13 +36,13 @@ bool Parser::Slope(int map, const char *var, const long double &x, const long do
                 mapper_exception(6, true);
                 return true;
             }
-            *values[k] = y.real;
+            values[k] = y.real;
         } else {
-            *values[k] = Derivative(map, var, points[k], h, order - 1, tolerance, silent);
+            values[k] = Derivative(map, var, points[k], h, order - 1, tolerance, silent);
             if (IsAnError()) return true;
         }
     }
-    slope = real_div(real_sub(f1, f2), real_mult(2.0L, step));
+    slope = real_div(real_sub(values[0], values[1]), real_mult(2.0L, step));
     set_var_value(noted, var);
     if (stop_requested()) return false;
     return IsAnError();

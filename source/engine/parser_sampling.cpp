@@ -33,20 +33,24 @@ bool Parser::stop_requested() {
     return computation_hooks != nullptr && computation_hooks->stop_requested();
 }
 
+// The window messages that waited, and the Variables List showing the running variable.
+void Parser::run_interface() {
+    computation_hooks->pump_waiting_messages();
+    computation_hooks->update_variable_list();
+}
+
 // The flag is read before the interface runs: a stop already pressed ends the loop at once.
 bool Parser::application_check_stops() {
     if (computation_hooks == nullptr) return false;
     if (computation_hooks->stop_requested()) return true;
-    computation_hooks->pump_waiting_messages();
-    computation_hooks->update_variable_list();
+    run_interface();
     return false;
 }
 
 // The interface runs first, so a stop pressed during this very pump counts.
 bool Parser::pump_then_stop_requested() {
     if (computation_hooks == nullptr) return false;
-    computation_hooks->pump_waiting_messages();
-    computation_hooks->update_variable_list();
+    run_interface();
     return computation_hooks->stop_requested();
 }
 
