@@ -62,14 +62,11 @@ bool LoadWork(const std::string &path, Parser &parser, Work &work, std::string &
 // A numeric computation on the engine of FILE, when one is given.
 int Compute(const cli::Options &options, Parser &parser) {
     std::string error;
-    if (options.havePath) {
-        Work work;
-        if (!LoadWork(options.path, parser, work, error)) return Fail(error);
-        if (options.radians) parser.angle_mode = 1;
-        ReportFailures(RunText(work.text, options.key, parser));
-    }
-    // Without a document the setting has not been applied yet.
+    Work work;
+    if (options.havePath && !LoadWork(options.path, parser, work, error)) return Fail(error);
+    // Over a document's own angle setting.
     if (options.radians) parser.angle_mode = 1;
+    if (options.havePath) ReportFailures(RunText(work.text, options.key, parser));
     std::string value;
     switch (cli::RunCalculus(parser, *options.calculus, value, error)) {
         case 0:
