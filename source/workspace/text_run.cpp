@@ -2,6 +2,8 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 #include "text_run.h"
 
+#include <utility>
+
 #include "editor_engine.h"
 #include "library_files.h"
 #include "math_editor.h"
@@ -77,7 +79,7 @@ TextRun RunText(std::string_view input, RunKey key, const std::string &libraryFo
     Parser parser(libraryFolder.c_str(), libraryFolder.c_str());
     std::vector<std::string> warnings = OpenLibraries(parser, libraryFolder);
     TextRun run = RunText(input, key, parser);
-    run.warnings.insert(run.warnings.begin(), warnings.begin(), warnings.end());
+    run.warnings = std::move(warnings);
     return run;
 }
 
