@@ -67,11 +67,10 @@ private:
     // are dropped. A file that cannot be read keeps nothing.
     bool unchanged() {
         std::ifstream in(path, std::ios::binary);
-        std::string bytes;
-        if (in) bytes.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-        if (in.bad() || !in.is_open()) bytes.clear();
-        if (in.is_open() && !in.bad() && bytes == content) return true;
-        content = std::move(bytes);
+        std::string bytes(std::istreambuf_iterator<char>(in), {});
+        const bool readable = in.is_open() && !in.bad();
+        if (readable && bytes == content) return true;
+        content = readable ? std::move(bytes) : std::string();
         known_categories.reset();
         answers.clear();
         return false;
