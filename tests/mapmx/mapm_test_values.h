@@ -19,6 +19,11 @@
 
 namespace quindar::testing {
 
+// Answer texts that many cases expect: 15 significant digits in scientific form.
+inline constexpr const char *kZero = "0.00000000000000E+0";
+inline constexpr const char *kPiText = "3.14159265358979E+0";
+inline constexpr const char *kHalfPiText = "1.57079632679490E+0";
+
 inline MapmNumber from(const char *text) {
     MapmNumber value;
     m_apm_set_string(&value, text);

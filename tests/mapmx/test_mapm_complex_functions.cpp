@@ -17,6 +17,9 @@ namespace {
 
 using testing::ComplexL;
 using testing::ExactCase;
+using testing::kHalfPiText;
+using testing::kPiText;
+using testing::kZero;
 using testing::ReferenceCase;
 using testing::without_status;
 
@@ -34,11 +37,8 @@ constexpr const char *kQuarterPi = "0.7853981633974483096156608458198757";
 constexpr const char *kThreeHalvesPi = "4.712388980384689857693965074919254";
 constexpr const char *kPi = "3.141592653589793238462643383279502";
 
-constexpr const char *kZero = "0.00000000000000E+0";
 constexpr const char *kOne = "1.00000000000000E+0";
 constexpr const char *kMinusOne = "-1.00000000000000E+0";
-constexpr const char *kPiText = "3.14159265358979E+0";
-constexpr const char *kHalfPiText = "1.57079632679490E+0";
 
 TEST(MapmComplexFunctions, SquareRootAndItsBranchCut) {
     const ExactCase cases[] = {

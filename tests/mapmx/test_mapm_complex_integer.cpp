@@ -12,6 +12,7 @@ namespace quindar {
 namespace {
 
 using testing::from;
+using testing::kZero;
 using testing::text_of;
 
 using BinaryComplex = int (*)(M_APM, M_APM, int, const MapmNumber *, const MapmNumber *,
@@ -33,8 +34,6 @@ void expect_binary(BinaryComplex function, const char *name, const BinaryCase &c
     EXPECT_EQ(text_of(rr), c.rr) << where;
     EXPECT_EQ(text_of(ri), c.ri) << where;
 }
-
-constexpr const char *kZero = "0.00000000000000E+0";
 
 TEST(MapmComplexRemainder, RoundsThePartsThenTakesTheGaussianRemainder) {
     const BinaryCase cases[] = {
