@@ -6,7 +6,9 @@ set -euo pipefail
 packages=(
     g++ cmake ninja-build pkg-config
     libintelrdfpmath-dev libmpfr-dev libgmp-dev
-    libgtest-dev libbenchmark-dev libmuparser-dev
+    libgtest-dev libbenchmark-dev libmuparser-dev ccache
+    qt6-base-dev qt6-svg-dev qt6-qpa-plugins libgl-dev
+    xvfb xauth fonts-dejavu-core fonts-liberation poppler-utils
 )
 
 missing=()
