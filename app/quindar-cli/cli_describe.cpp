@@ -3,11 +3,11 @@
 #include "cli_describe.h"
 
 #include <algorithm>
-#include <cctype>
 #include <charconv>
 
 #include "function_library_catalog.h"
 #include "function_texts.h"
+#include "text_helpers.h"
 #include "user_library.h"
 #include "var_fun_ini_file.h"
 
@@ -15,20 +15,13 @@ namespace quindar::cli {
 
 namespace {
 
-bool SameIgnoringCase(const std::string &a, const std::string &b) {
-    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
-               return std::toupper(static_cast<unsigned char>(x)) ==
-                      std::toupper(static_cast<unsigned char>(y));
-           });
-}
-
 // The category as the library spells it: exactly, or failing that without regard to case.
 std::optional<std::string> FindCategory(const std::vector<std::string> &categories,
                                         const std::string &wanted) {
     for (const auto &category : categories)
         if (category == wanted) return category;
     for (const auto &category : categories)
-        if (SameIgnoringCase(category, wanted)) return category;
+        if (text::equal_no_case(category, wanted)) return category;
     return std::nullopt;
 }
 
@@ -66,7 +59,7 @@ int Describe(FunctionLibraryCatalog &catalog, const std::string &wanted, std::os
         error = "\"" + name + "\" is no function or constant of the Function Library";
         // Constants keep their case, unlike functions.
         for (const auto &constant : mathlib::constant_texts())
-            if (SameIgnoringCase(std::string(constant.name), name))
+            if (text::equal_no_case(constant.name, name))
                 error += "; did you mean \"" + std::string(constant.name) + "\"?";
         return 1;
     }

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
+#include <string>
 
 #include "embedded_tables.h"
 
@@ -313,13 +313,6 @@ constexpr EmbeddedCategory kCategories[] = {
     {kConstantsCategory, kConstantNames},
 };
 
-bool SameIgnoringCase(std::string_view a, std::string_view b) {
-    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
-               return std::toupper(static_cast<unsigned char>(x)) ==
-                      std::toupper(static_cast<unsigned char>(y));
-           });
-}
-
 }  // namespace
 
 std::span<const FunctionText> embedded_function_texts() {
@@ -352,10 +345,12 @@ std::vector<std::string_view> embedded_category_names(std::string_view category)
 }
 
 const FunctionText *find_function_text(std::string_view name) {
-    for (const auto &text : kFunctionTexts)
-        if (SameIgnoringCase(text.name, name)) return &text;
-    for (const auto &text : kConstantTexts)
-        if (text.name == name) return &text;
+    // The tables' own look-ups: functions without regard to case, constants exactly.
+    const std::string wanted(name);
+    if (const int index = function_index(wanted.c_str()); index >= 0)
+        return &kFunctionTexts[static_cast<std::size_t>(index)];
+    if (const int index = constant_index(wanted.c_str()); index >= 0)
+        return &kConstantTexts[static_cast<std::size_t>(index)];
     return nullptr;
 }
 

@@ -3,22 +3,17 @@
 #include "function_library_browser.h"
 
 #include <algorithm>
-#include <cctype>
 
 #include "function_texts.h"
+#include "text_helpers.h"
 
 namespace quindar {
 
 int FindStringPrefix(const std::vector<std::string> &list, std::string_view text) {
     if (text.empty()) return -1;
-    const auto upper = [](char c) { return std::toupper(static_cast<unsigned char>(c)); };
-    for (std::size_t i = 0; i < list.size(); ++i) {
-        const std::string &entry = list[i];
-        if (entry.size() >= text.size() &&
-            std::equal(text.begin(), text.end(), entry.begin(),
-                       [&](char a, char b) { return upper(a) == upper(b); }))
+    for (std::size_t i = 0; i < list.size(); ++i)
+        if (text::equal_no_case(std::string_view(list[i]).substr(0, text.size()), text))
             return static_cast<int>(i);
-    }
     return -1;
 }
 

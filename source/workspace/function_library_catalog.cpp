@@ -3,27 +3,20 @@
 #include "function_library_catalog.h"
 
 #include <algorithm>
-#include <cctype>
 
 #include "function_texts.h"
 #include "library_lookup.h"
 #include "multi_string.h"
+#include "text_helpers.h"
 
 namespace quindar {
 
 namespace {
 
-bool SameIgnoringCase(std::string_view a, std::string_view b) {
-    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
-               return std::toupper(static_cast<unsigned char>(x)) ==
-                      std::toupper(static_cast<unsigned char>(y));
-           });
-}
-
 void AddNew(std::vector<std::string> &list, const std::vector<std::string> &more) {
     for (const auto &item : more) {
         const bool known = std::any_of(list.begin(), list.end(), [&](const std::string &have) {
-            return SameIgnoringCase(have, item);
+            return text::equal_no_case(have, item);
         });
         if (!known) list.push_back(item);
     }
