@@ -25,21 +25,6 @@ int CountTextLines(std::string_view text) {
     return lines;
 }
 
-std::string WithCrLf(std::string_view text) {
-    std::string result;
-    result.reserve(text.size() + text.size() / 16);
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const char c = text[i];
-        if (c == '\r' || c == '\n') {
-            result += "\r\n";
-            if (c == '\r' && i + 1 < text.size() && text[i + 1] == '\n') ++i;
-        } else {
-            result += c;
-        }
-    }
-    return result;
-}
-
 TextPaginator::TextPaginator(std::string printedText, std::string headerText,
                              const PageMetrics &metrics, MeasureText measureText)
     : text(std::move(printedText)),

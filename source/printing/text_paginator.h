@@ -48,12 +48,11 @@ int LinesPerPage(const PageMetrics &metrics);
 int EstimatedPageCount(int textLines, int linesPerPage);
 // Lines of a text as an editor counts them: one more than its line breaks.
 int CountTextLines(std::string_view text);
-// The text with every line break written as CR LF, as the paginator reads it.
-std::string WithCrLf(std::string_view text);
 
 class TextPaginator {
 public:
-    // The text must end its lines with CR LF (see WithCrLf).
+    // The text must end its lines with CR LF, as the editor's buffer gives them; a lone LF
+    // would print as a character.
     TextPaginator(std::string text, std::string header, const PageMetrics &metrics,
                   MeasureText measure);
 

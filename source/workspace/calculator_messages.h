@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "message_hook.h"
+#include "message_table.h"
 
 namespace quindar {
 
@@ -22,12 +23,7 @@ inline constexpr int kSavedIntoMemory = 21822;
 inline constexpr int kRemovedFromMemory = 21823;
 inline constexpr int kMemoryCleared = 21824;
 
-struct CalculatorMessage {
-    int id;
-    std::string_view text;
-};
-
-inline constexpr CalculatorMessage kCalculatorMessages[] = {
+inline constexpr NumberedText kCalculatorMessages[] = {
     {kCalculatorTitle, "Calculator"},
     {kAnglesInRadians,
      "All trignometric angle computations will now be made using angles measured in radians."},
@@ -46,13 +42,8 @@ inline constexpr CalculatorMessage kCalculatorMessages[] = {
 
 // The text of a message number; empty for a number the calculator does not own.
 constexpr std::string_view CalculatorMessageText(int id) {
-    for (const auto &message : kCalculatorMessages)
-        if (message.id == id) return message.text;
-    return {};
+    return FindNumberedText(kCalculatorMessages, id);
 }
-
-// The message's text with its one "%s" replaced by the argument.
-std::string FormatCalculatorMessage(int id, std::string_view argument = {});
 
 // Shows a message of the calculator: its number, its finished text and the box's caption.
 using CalculatorMessageHook = std::function<void(int messageId, std::string_view text,

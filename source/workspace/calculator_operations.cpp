@@ -47,7 +47,7 @@ int CalculatorOperations::StepRight(int offset) const {
 
 void CalculatorOperations::Tell(int messageId, MessageStyle style, std::string_view argument) {
     if (ShowMessage)
-        ShowMessage(messageId, FormatCalculatorMessage(messageId, argument),
+        ShowMessage(messageId, FillMessage(CalculatorMessageText(messageId), argument),
                     CalculatorMessageText(kCalculatorTitle), style);
 }
 

@@ -9,17 +9,14 @@
 #include <string>
 #include <string_view>
 
-namespace quindar {
+#include "message_table.h"
 
-struct ManagerMessage {
-    int id;
-    std::string_view text;
-};
+namespace quindar {
 
 inline constexpr int kVariablesManagerTitle = 31500;
 inline constexpr int kFunctionManagerTitle = 30500;
 
-inline constexpr ManagerMessage kManagerMessages[] = {
+inline constexpr NumberedText kManagerMessages[] = {
     {31500, "Variables Manager"},
     {31520, "You must enter a valid variable name!"},
     {31521, "The first character of a variable can not be a number!"},
@@ -83,14 +80,14 @@ inline constexpr ManagerMessage kManagerMessages[] = {
 
 // The text of a message number; empty for a number the managers do not own.
 constexpr std::string_view ManagerMessageText(int id) {
-    for (const auto &message : kManagerMessages)
-        if (message.id == id) return message.text;
-    return {};
+    return FindNumberedText(kManagerMessages, id);
 }
 
-// The message's text with its "%s" replaced by the arguments in order, and "%c" by the
+// The message's text with its "%s" places filled by the names in order, and "%c" by the
 // character.
-std::string FormatManagerMessage(int id, std::string_view first = {}, std::string_view second = {},
-                                 char character = 0);
+inline std::string FormatManagerMessage(int id, std::string_view first = {},
+                                        std::string_view second = {}, char character = 0) {
+    return FillMessage(ManagerMessageText(id), first, second, character);
+}
 
 }  // namespace quindar

@@ -6,18 +6,14 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "message_table.h"
 #include "parser.h"
 
 namespace quindar {
 
 namespace {
 
-struct OptionsMessage {
-    int id;
-    std::string_view text;
-};
-
-constexpr OptionsMessage kOptionsMessages[] = {
+constexpr NumberedText kOptionsMessages[] = {
     {kPrecisionFormatTitle, "Precision/Format"},
     {kZeroPrecisionEmpty, "Please Provide An Entry For The Zero Precision!"},
     {kAskApplyToFile, "Would You Like To Apply Your Latest Changes To The Current File In Focus?"},
@@ -37,9 +33,7 @@ void ForTargets(OptionsDocuments documents, bool all, Each &&each) {
 }  // namespace
 
 std::string_view OptionsMessageText(int id) {
-    for (const auto &message : kOptionsMessages)
-        if (message.id == id) return message.text;
-    return {};
+    return FindNumberedText(kOptionsMessages, id);
 }
 
 bool SaveSheetOptions(const AppSettings &settings, const SheetOptions &options) {

@@ -6,9 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "calculator_fixture.h"
 #include "calculator_keys.h"
-#include "calculator_operations.h"
-#include "editor_fixture.h"
 
 namespace quindar {
 namespace {
@@ -16,28 +15,8 @@ namespace {
 using testing::Draw;
 using testing::Load;
 
-struct Shown {
-    int id;
-    std::string text;
-    bool operator==(const Shown &) const = default;
-};
-
-struct MemoryKeys {
-    MemoryKeys() {
-        operations.ShowMessage = [this](int id, std::string_view text, std::string_view caption,
-                                        MessageStyle) {
-            shown.push_back({id, std::string(text)});
-            EXPECT_EQ(caption, "Calculator");
-        };
-    }
-    void Select(int start, int end) { buffer.SetSelection(start, end); }
-    Parser parser{"", ""};
-    ParserEngine engine{parser};
-    MemoryTextBuffer buffer;
-    MathEditor editor{buffer, engine};
-    CalculatorOperations operations{buffer, editor};
-    std::vector<Shown> shown;
-};
+using Shown = testing::ShownMessage;
+using MemoryKeys = testing::CalculatorFixture;
 
 std::string Saved(std::string_view text) {
     return "The mathematical text string \"" + std::string(text) + "\" has been saved into memory.";
@@ -149,6 +128,7 @@ TEST(CalculatorMemory, ClearTellsAndForgetsTheItemToo) {
     EXPECT_FALSE(keys.operations.Memory().Text());
     EXPECT_FALSE(keys.operations.Memory().LastItem());
     EXPECT_EQ(keys.shown.back(), (Shown{21824, "The memory has been cleared."}));
+    for (const std::string &caption : keys.captions) EXPECT_EQ(caption, "Calculator");
     keys.operations.ExecuteMEMMINUS();
     EXPECT_EQ(keys.shown.size(), 2U);
 }

@@ -8,8 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "calculator_operations.h"
-#include "editor_fixture.h"
+#include "calculator_fixture.h"
 #include "editor_messages.h"
 
 namespace quindar {
@@ -56,25 +55,7 @@ std::string DrawBuffer(const MemoryTextBuffer &buffer) {
     return drawn;
 }
 
-struct Calculator {
-    Calculator() {
-        operations.ShowMessage = [this](int id, std::string_view text, std::string_view caption,
-                                        MessageStyle) {
-            messages.push_back(id);
-            texts.emplace_back(text);
-            captions.emplace_back(caption);
-        };
-        operations.SetAngleMode = [this](int mode) { parser.angle_mode = mode; };
-    }
-    Parser parser{"", ""};
-    ParserEngine engine{parser};
-    MemoryTextBuffer buffer;
-    MathEditor editor{buffer, engine};
-    CalculatorOperations operations{buffer, editor};
-    std::vector<int> messages;
-    std::vector<std::string> texts;
-    std::vector<std::string> captions;
-};
+using Calculator = testing::CalculatorFixture;
 
 using Operation = std::function<void(CalculatorOperations &)>;
 
@@ -246,7 +227,7 @@ TEST(CalculatorOperations, EveryRowOfTheTable) {
         LoadDrawn(calc.buffer, c.before);
         c.run(calc.operations);
         EXPECT_EQ(DrawBuffer(calc.buffer), c.after) << c.key << " on " << c.before;
-        EXPECT_TRUE(calc.messages.empty()) << c.key << " on " << c.before;
+        EXPECT_TRUE(calc.shown.empty()) << c.key << " on " << c.before;
     }
 }
 
@@ -265,8 +246,11 @@ TEST(CalculatorOperations, AngleKeysSetTheEngineAndTellIt) {
     EXPECT_EQ(calc.parser.angle_mode, 1);
     calc.operations.ExecuteDEG();
     EXPECT_EQ(calc.parser.angle_mode, 0);
-    EXPECT_EQ(calc.messages, (std::vector<int>{kAnglesInRadians, kAnglesInDegrees}));
-    EXPECT_EQ(calc.texts[0],
+    ASSERT_EQ(calc.shown.size(), 2U);
+    EXPECT_EQ(calc.shown[0].id, kAnglesInRadians);
+    EXPECT_EQ(calc.shown[1].id, kAnglesInDegrees);
+    EXPECT_EQ(calc.captions[0], "Calculator");
+    EXPECT_EQ(calc.shown[0].text,
               "All trignometric angle computations will now be made using angles measured in "
               "radians.");
 }
