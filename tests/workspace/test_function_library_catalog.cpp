@@ -11,6 +11,8 @@
 
 #include "function_library_browser.h"
 #include "function_library_catalog.h"
+#include "function_library_insert.h"
+#include "memory_text_buffer.h"
 
 namespace quindar {
 namespace {
@@ -239,6 +241,43 @@ TEST(FunctionLibraryTexts, ParametersToSelectAfterInsert) {
         ASSERT_EQ(ParameterRange(text, begin, end), c.found) << c.text;
         if (c.found) EXPECT_EQ(text.substr(begin, end - begin), c.parameters) << c.text;
     }
+}
+
+TEST(FunctionLibraryTexts, InsertSelectsTheParametersOnTheCaretLine) {
+    const struct {
+        const char *before;  // the caret stands at the end
+        const char *prototype;
+        bool inserted;
+        const char *text;
+        const char *selected;
+    } cases[] = {
+        {"1+", "F[x] = 2*x", true, "1+F[x]", "x"},
+        {"a\r\nb", "LOG[number,base]", true, "a\r\nbLOG[number,base]", "number,base"},
+        {"", "MEAN[{number1,number2,...numberN}]", true, "MEAN[{number1,number2,...numberN}]",
+         "number1,number2,...numberN"},
+        {"", "PI", true, "PI", ""},
+        {"", "", false, "", ""},
+        // The call is looked for on the line, so an earlier one of the same name is selected.
+        {"G[y]+", "G[y] = y", true, "G[y]+G[y]", "y"},
+    };
+    for (const auto &c : cases) {
+        MemoryTextBuffer buffer(c.before);
+        const int end = static_cast<int>(buffer.Text().size());
+        buffer.SetSelection(end, end);
+        EXPECT_EQ(InsertLibraryPrototype(buffer, c.prototype), c.inserted) << c.prototype;
+        EXPECT_EQ(buffer.Text(), c.text) << c.prototype;
+        int start = 0;
+        int stop = 0;
+        buffer.GetSelection(start, stop);
+        EXPECT_EQ(buffer.TextRange(start, stop), c.selected) << c.prototype;
+    }
+    MemoryTextBuffer buffer("G[y]+");
+    buffer.SetSelection(5, 5);
+    InsertLibraryPrototype(buffer, "G[y]");
+    int start = 0;
+    int stop = 0;
+    buffer.GetSelection(start, stop);
+    EXPECT_EQ(start, 2);  // inside the first G[y]
 }
 
 }  // namespace
