@@ -137,10 +137,6 @@ const CalculatorKey *FindCalculatorKey(int id) {
     return &kKeys[static_cast<std::size_t>(index)];
 }
 
-bool IsEditorKey(const CalculatorKey &key) {
-    return static_cast<int>(key.action) >= static_cast<int>(A::InsertText);
-}
-
 namespace {
 
 using Operations = CalculatorOperations;
@@ -185,15 +181,23 @@ constexpr EditorAction kEditorActions[] = {
     {A::Enter, [](Operations &o, std::string_view) { o.ExecuteENTER(); }},
 };
 
+const EditorAction *FindEditorAction(CalculatorAction action) {
+    for (const auto &entry : kEditorActions)
+        if (entry.action == action) return &entry;
+    return nullptr;
+}
+
 }  // namespace
 
+bool IsEditorKey(const CalculatorKey &key) {
+    return FindEditorAction(key.action) != nullptr;
+}
+
 bool RunCalculatorKey(const CalculatorKey &key, CalculatorOperations &operations) {
-    for (const auto &entry : kEditorActions)
-        if (entry.action == key.action) {
-            entry.run(operations, key.argument);
-            return true;
-        }
-    return false;
+    const EditorAction *entry = FindEditorAction(key.action);
+    if (entry == nullptr) return false;
+    entry->run(operations, key.argument);
+    return true;
 }
 
 }  // namespace quindar
