@@ -4,6 +4,7 @@
 // and wrapping, each page drawn as "row:text" lines.
 #include <gtest/gtest.h>
 
+#include <random>
 #include <string>
 #include <vector>
 
@@ -133,6 +134,35 @@ TEST(TextPaginator, LinesAreCountedByTheirCrLfBreaks) {
     // A lone line feed is no break to the paginator: the caller converts first.
     TextPaginator raw("a\nb", "", {1000, 100, 10}, Measure);
     ASSERT_EQ(raw.NextPage().lines.size(), 1U);
+}
+
+TEST(TextPaginator, AnyTextPrintsEachCharacterOnceAndEnds) {
+    // Texts made of pieces that break, wrap and end pages in every order: printed in a row,
+    // the pages hold the text without its line breaks and form feeds.
+    const char *pieces[] = {"a", "W", "\r\n", "\f", "\xE2\x82\xAC", "bcdefg"};
+    std::mt19937 random(20261123);
+    for (int round = 0; round < 500; ++round) {
+        std::string text;
+        const int length = static_cast<int>(random() % 60);
+        for (int i = 0; i < length; ++i) text += pieces[random() % std::size(pieces)];
+        const int width = 10 + static_cast<int>(random() % 60);
+        const int height = static_cast<int>(random() % 140);
+        TextPaginator paginator(text, "H", {width, height, 10}, Measure);
+        std::string printed;
+        int pages = 0;
+        while (paginator.HasPage() && pages < 1000) {
+            for (const auto &line : paginator.NextPage().lines) {
+                EXPECT_TRUE(line.row >= kFirstTextRow && line.row < paginator.LinesPerPage() - 2);
+                printed += line.text;
+            }
+            ++pages;
+        }
+        std::string expected;
+        for (char c : text)
+            if (c != '\r' && c != '\n' && c != kFormFeed) expected += c;
+        ASSERT_LT(pages, 1000) << "no end";
+        EXPECT_EQ(printed, expected) << "round " << round;
+    }
 }
 
 TEST(ListPrintout, PagesAreRowsOverRowsPerPagePlusOne) {
