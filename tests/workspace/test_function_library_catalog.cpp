@@ -12,6 +12,7 @@
 #include "function_library_browser.h"
 #include "function_library_catalog.h"
 #include "function_library_insert.h"
+#include "function_library_rules.h"
 #include "memory_text_buffer.h"
 
 namespace quindar {
@@ -278,6 +279,35 @@ TEST(FunctionLibraryTexts, InsertSelectsTheParametersOnTheCaretLine) {
     int stop = 0;
     buffer.GetSelection(start, stop);
     EXPECT_EQ(start, 2);  // inside the first G[y]
+}
+
+TEST(FunctionLibraryTexts, ButtonsHelpTopicsAndGraphRefusals) {
+    LibraryEntry embedded{LibraryEntryKind::Embedded, 27, "SIN[number]", "", ""};
+    LibraryEntry constant{LibraryEntryKind::Constant, 0, "PI", "", ""};
+    LibraryEntry library{LibraryEntryKind::Library, -1, "G[a,b] = a+b", "", "MINE"};
+    const struct {
+        const LibraryEntry &entry;
+        const char *category;
+        bool help;
+        bool solve;
+    } cases[] = {{embedded, "ALL", true, true},
+                 {constant, "ALL", false, false},
+                 {constant, "CONSTANTS", false, false},
+                 {library, "MINE", false, true},
+                 {embedded, "CONSTANTS", true, false}};
+    for (const auto &c : cases) {
+        const LibraryButtons buttons = ButtonsFor(c.entry, c.category);
+        EXPECT_EQ(buttons.helpShown, c.help) << c.entry.prototype;
+        EXPECT_EQ(buttons.solveEnabled, c.solve) << c.entry.prototype;
+    }
+    EXPECT_EQ(FunctionHelpTopic(embedded), 20027);
+    EXPECT_EQ(FunctionHelpTopic(library), 0);
+    EXPECT_EQ(GraphInsertRefusal(constant, "PI"), kConstantNotGraphed);
+    EXPECT_EQ(GraphInsertRefusal(library, "G[a,b]"), 0);
+    EXPECT_EQ(GraphInsertRefusal(embedded, "SIN[number]"), 0);
+    EXPECT_EQ(GraphInsertRefusal(library, "H[a,b,c]"), kTooManyParametersToGraph);
+    EXPECT_EQ(FillMessage(FunctionLibraryMessageText(kTooManyParametersToGraph), "H[a,b,c]"),
+              "Function \"H[a,b,c]\" Has Too Many Parameters To Be Graphed.");
 }
 
 }  // namespace
