@@ -48,6 +48,16 @@ struct Case {
     const char *asked;  // the engine's call, or "" for none
 };
 
+void ExpectOutcome(const Case &c, const AddEditOutcome &outcome, const FakeDocument &document) {
+    std::vector<int> ids;
+    for (const auto &note : outcome.notes) ids.push_back(note.id);
+    EXPECT_EQ(ids, c.notes) << '"' << c.name << "\" \"" << c.value << '"';
+    EXPECT_EQ(outcome.focus, c.focus) << c.name << " " << c.value;
+    EXPECT_EQ(outcome.changed, c.changed) << c.name << " " << c.value;
+    EXPECT_EQ(document.asked.empty() ? "" : document.asked.front(), std::string(c.asked))
+        << c.name << " " << c.value;
+}
+
 FakeDocument Variables() {
     FakeDocument document;
     document.values = {{"a", "2"}, {"z", "3"}, {"busy", "1"}};
@@ -80,13 +90,7 @@ TEST(ManagerAddEdit, VariablesInTheirOrder) {
     for (const auto &c : cases) {
         FakeDocument document = Variables();
         const AddEditOutcome outcome = VariableAddEdit(c.name, c.value, document);
-        std::vector<int> ids;
-        for (const auto &note : outcome.notes) ids.push_back(note.id);
-        EXPECT_EQ(ids, c.notes) << '"' << c.name << "\" \"" << c.value << '"';
-        EXPECT_EQ(outcome.focus, c.focus) << c.name << " " << c.value;
-        EXPECT_EQ(outcome.changed, c.changed) << c.name << " " << c.value;
-        EXPECT_EQ(document.asked.empty() ? "" : document.asked.front(), std::string(c.asked))
-            << c.name << " " << c.value;
+        ExpectOutcome(c, outcome, document);
     }
 }
 
@@ -128,13 +132,7 @@ TEST(ManagerAddEdit, FunctionsInTheirOrder) {
         FakeDocument document;
         document.values = {{"F[x]", "2*x"}};
         const AddEditOutcome outcome = FunctionAddEdit(c.name, c.value, document, false);
-        std::vector<int> ids;
-        for (const auto &note : outcome.notes) ids.push_back(note.id);
-        EXPECT_EQ(ids, c.notes) << '"' << c.name << "\" \"" << c.value << '"';
-        EXPECT_EQ(outcome.focus, c.focus) << c.name << " " << c.value;
-        EXPECT_EQ(outcome.changed, c.changed) << c.name << " " << c.value;
-        EXPECT_EQ(document.asked.empty() ? "" : document.asked.front(), std::string(c.asked))
-            << c.name << " " << c.value;
+        ExpectOutcome(c, outcome, document);
     }
 }
 
