@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace quindar::printing {
 
@@ -44,40 +45,48 @@ std::size_t TextPaginator::CharacterLength(std::size_t at) const {
 
 int TextPaginator::GetNextLine(std::string &line) {
     const std::size_t start = textOffset;
-    std::size_t count = 0;
     line.clear();
-    for (;;) {
-        const std::size_t at = start + count;
-        if (at >= text.size()) {
-            textOffset += count;
-            line = text.substr(start, count);
-            return count > 0 ? static_cast<int>(count) : -1;
-        }
-        const char c = text[at];
-        if (c == kFormFeed) {
-            if (count == 0) {
-                ++textOffset;
-                return -2;
+    const std::size_t stop = std::min(text.find_first_of("\r\f", start), text.size());
+    std::size_t count = stop - start;
+    if (count > 0 && measure && measure(std::string_view(text).substr(start, count)) > pageWidth) {
+        // The line stops fitting somewhere: find the longest run of whole characters that
+        // fits (widths only grow as characters are added), and never less than one character.
+        std::vector<std::size_t> ends;
+        for (std::size_t at = start; at < stop; at += CharacterLength(at)) ends.push_back(at);
+        ends.push_back(stop);
+        std::size_t fitting = 1;  // characters
+        std::size_t low = 2;
+        std::size_t high = ends.size() - 2;
+        while (low <= high) {
+            const std::size_t middle = (low + high) / 2;
+            if (measure(std::string_view(text).substr(start, ends[middle] - start)) > pageWidth) {
+                high = middle - 1;
+            } else {
+                fitting = middle;
+                low = middle + 1;
             }
-            textOffset += count + 1;
-            line = text.substr(start, count);
-            return static_cast<int>(count);
         }
-        if (c == '\r') {
-            const bool lineFeed = at + 1 < text.size() && text[at + 1] == '\n';
-            textOffset += count + (lineFeed ? 2 : 1);
-            line = text.substr(start, count);
-            return static_cast<int>(count);
-        }
-        const std::size_t length = CharacterLength(at);
-        if (count > 0 && measure &&
-            measure(std::string_view(text).substr(start, count + length)) > pageWidth) {
-            textOffset += count;
-            line = text.substr(start, count);
-            return static_cast<int>(count);
-        }
-        count += length;
+        count = ends[fitting] - start;
+        textOffset += count;
+        line = text.substr(start, count);
+        return static_cast<int>(count);
     }
+    line = text.substr(start, count);
+    if (stop >= text.size()) {
+        textOffset += count;
+        return count > 0 ? static_cast<int>(count) : -1;
+    }
+    if (text[stop] == kFormFeed) {
+        if (count == 0) {
+            ++textOffset;
+            return -2;
+        }
+        textOffset += count + 1;
+        return static_cast<int>(count);
+    }
+    const bool lineFeed = stop + 1 < text.size() && text[stop + 1] == '\n';
+    textOffset += count + (lineFeed ? 2 : 1);
+    return static_cast<int>(count);
 }
 
 PrintedPage TextPaginator::NextPage() {

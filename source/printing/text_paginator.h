@@ -70,7 +70,7 @@ public:
 private:
     // The next line's characters from the cursor: the count (0 for an empty line), -1 at the
     // end of the text, -2 for a form feed at the start of a line. Moves the cursor past the
-    // line and its break.
+    // line and its break. The measure must grow as characters are added, as a font's does.
     int GetNextLine(std::string &line);
     std::size_t CharacterLength(std::size_t at) const;
 
