@@ -23,6 +23,13 @@ std::vector<ListDeletion> PlanListDeletion(std::span<const int> selectedRows);
 // The selected index when exactly one line is selected, else -1.
 int SingleSelection(std::span<const int> selectedRows);
 
+// The entry the Function Manager selects after deleting the one at deletedIndex: the one now
+// at the same index, or the last when the deleted one was last; -1 when none is left.
+constexpr int SelectionAfterDelete(int deletedIndex, int remainingCount) {
+    if (remainingCount <= 0) return -1;
+    return deletedIndex < remainingCount ? deletedIndex : remainingCount - 1;
+}
+
 // Runs the plan: deleteOne(index, update, ask) is DeleteVariable or DeleteFunction and
 // says whether it deleted. A refused delete leaves the engine's list as it was, so the
 // indexes after it are lowered only by what was really deleted. Returns the number deleted.

@@ -175,5 +175,12 @@ TEST(ListDeletion, SingleSelectionIsMinusOneForNoneOrSeveral) {
     EXPECT_EQ(SingleSelection(std::vector<int>{2, 3}), -1);
 }
 
+TEST(ListDeletion, TheManagerSelectsTheNextEntryOrTheOneBeforeTheLast) {
+    EXPECT_EQ(SelectionAfterDelete(1, 3), 1);
+    EXPECT_EQ(SelectionAfterDelete(3, 3), 2);  // the last one went: the one before it
+    EXPECT_EQ(SelectionAfterDelete(0, 0), -1);
+    EXPECT_EQ(SelectionAfterDelete(0, 1), 0);
+}
+
 }  // namespace
 }  // namespace quindar
