@@ -158,6 +158,35 @@ TEST_F(CatalogLibraries, MissingOrAbsentLibrariesLeaveTheEmbeddedTexts) {
     EXPECT_EQ(catalog.Describe("SQRT", "ALL").kind, LibraryEntryKind::Embedded);
 }
 
+TEST_F(CatalogLibraries, ADamagedUserLibraryLeavesTheSystemLibraryWorking) {
+    const std::string damaged[] = {
+        std::string("\0\x01\xFF[bad\r\n=\r\n[\r\n]]\r\n", 17),
+        "[ONLY]\r\n[x]=\r\n=\r\n[]\r\nA[=B\r\n",
+        "",
+    };
+    for (const std::string &text : damaged) {
+        std::ofstream(folder / "QuindarUser.lib", std::ios::binary) << text;
+        VarFunIniFile system(Path("Quindar.lib").c_str());
+        VarFunIniFile user(Path("QuindarUser.lib").c_str());
+        FunctionLibraryCatalog catalog(&system, &user);
+        const auto categories = catalog.Categories();
+        ASSERT_GE(categories.size(), 12U);
+        EXPECT_EQ(categories[10], "GEOMETRY");
+        for (const auto &category : categories) catalog.Names(category);
+        EXPECT_EQ(catalog.Describe("CUBE", "ALL").prototype, "CUBE[a] = a^3");
+        FunctionLibraryBrowser browser(catalog);
+        EXPECT_TRUE(browser.Search("cu"));
+    }
+    // A folder where the user library should be.
+    fs::remove(folder / "QuindarUser.lib");
+    fs::create_directory(folder / "QuindarUser.lib");
+    VarFunIniFile system(Path("Quindar.lib").c_str());
+    VarFunIniFile user(Path("QuindarUser.lib").c_str());
+    FunctionLibraryCatalog catalog(&system, &user);
+    EXPECT_EQ(catalog.Categories().size(), 12U);
+    EXPECT_EQ(catalog.Describe("CIRCLEAREA", "ALL").kind, LibraryEntryKind::Library);
+}
+
 TEST_F(CatalogLibraries, SearchSwitchesToAllAndBackReturnsToTheFoundName) {
     VarFunIniFile system(Path("Quindar.lib").c_str());
     FunctionLibraryCatalog catalog(&system, nullptr);
