@@ -7,6 +7,7 @@
 #include <tuple>
 #include <vector>
 
+#include "delete_questions.h"
 #include "list_deletion.h"
 #include "manager_checks.h"
 #include "manager_messages.h"
@@ -180,6 +181,32 @@ TEST(ListDeletion, TheManagerSelectsTheNextEntryOrTheOneBeforeTheLast) {
     EXPECT_EQ(SelectionAfterDelete(3, 3), 2);  // the last one went: the one before it
     EXPECT_EQ(SelectionAfterDelete(0, 0), -1);
     EXPECT_EQ(SelectionAfterDelete(0, 1), 0);
+}
+
+TEST(DeleteQuestions, AUseIsAskedAboutEvenWithoutAsking) {
+    const struct {
+        bool function;
+        bool used;
+        bool ask;
+        int id;  // 0: no question
+    } cases[] = {
+        {false, true, false, 31537}, {false, true, true, 31537}, {false, false, true, 31535},
+        {false, false, false, 0},    {true, true, false, 30548}, {true, false, true, 30545},
+        {true, false, false, 0},
+    };
+    for (const auto &c : cases) {
+        const auto question =
+            c.function
+                ? FunctionDeleteQuestion("F[x]", c.used, c.ask)
+                : VariableDeleteQuestion(
+                      "a", c.used ? std::optional<std::string>("F[x]") : std::nullopt, c.ask);
+        EXPECT_EQ(question ? question->id : 0, c.id) << c.function << c.used << c.ask;
+    }
+    EXPECT_EQ(VariableDeleteQuestion("a", std::nullopt, true)->text,
+              "Are you sure that you want to delete 'a'!");
+    EXPECT_EQ(FunctionDeleteQuestion("F[x]", true, false)->text,
+              "Function \"F[x]\" Is Required For One Or More Defined Graphs, Do You Still Want To "
+              "Delete The Function?");
 }
 
 }  // namespace
