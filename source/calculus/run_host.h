@@ -64,7 +64,7 @@ public:
 };
 
 // A run without a window: nothing shown, nothing pumped, no stop.
-class NullRunHost final : public RunHost {
+class NullRunHost : public RunHost {
 public:
     void pump() override {}
     bool stop_requested() override { return false; }
