@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "calculus_messages.h"
+#include "function_texts.h"
 #include "parser.h"
 #include "solver_form.h"
 
@@ -190,32 +191,52 @@ TEST(SolverPrototypes, TheSecondFormPutsTheTrailingNamesInTheLastBoxes) {
                                                        "Number 4", "Number 5", "alpha"}));
 }
 
-// Every prototype of the function table reads without refusal into as many boxes as it
-// names, and a call built from a 1 in each box has the function's name and those arguments.
+// A prototype reads without refusal into as many boxes as it names, and a call built from
+// a 1 in each box has the function's name and those arguments.
+void ExpectReadsIntoItsBoxes(const std::string &prototype) {
+    SCOPED_TRACE(prototype);
+    SolverForm form;
+    ASSERT_TRUE(form.configure(prototype));
+    const std::string name = prototype.substr(0, prototype.find('['));
+    EXPECT_EQ(form.function_name(), name);
+    EXPECT_EQ(form.has_two_forms(), prototype.find(" or [") != std::string::npos);
+    const std::string inside =
+        prototype.substr(prototype.find('[') + 1, prototype.find(']') - prototype.find('[') - 1);
+    const bool list = inside[0] == '{' || inside.rfind("logicalExp1", 0) == 0;
+    ASSERT_EQ(form.type(), list ? ParameterType::List : ParameterType::Set);
+    Parser parser{"", ""};
+    SolverFailure failure;
+    std::string expected = name + "[" + (list && inside[0] == '{' ? "{" : "");
+    const int boxes = list ? kSolverBoxes : PrototypeParameterCount(inside);
+    ASSERT_EQ(form.num_parameters(), boxes);
+    for (int box = 0; box < boxes; ++box) {
+        ASSERT_TRUE(form.store(parser, box, " 1 ", failure)) << failure.text;
+        expected += box ? ",1" : "1";
+    }
+    expected += (list && inside[0] == '{' ? "}]" : "]");
+    EXPECT_EQ(form.build_expression(), expected);
+}
+
 TEST(SolverPrototypes, EveryEmbeddedPrototype) {
     ASSERT_EQ(std::size(kEmbeddedPrototypes), 91u);
-    for (const std::string prototype : kEmbeddedPrototypes) {
-        SCOPED_TRACE(prototype);
+    for (const std::string prototype : kEmbeddedPrototypes) ExpectReadsIntoItsBoxes(prototype);
+}
+
+// The Function Library's own table of the same prototypes, and its constants, which have no
+// parameters.
+TEST(SolverPrototypes, EveryPrototypeOfTheLibraryTexts) {
+    const auto functions = mathlib::embedded_function_texts();
+    ASSERT_EQ(functions.size(), std::size(kEmbeddedPrototypes));
+    for (std::size_t i = 0; i < functions.size(); ++i) {
+        EXPECT_EQ(functions[i].prototype, kEmbeddedPrototypes[i]);
+        ExpectReadsIntoItsBoxes(std::string(functions[i].prototype));
+    }
+    for (const mathlib::FunctionText &constant : mathlib::constant_texts()) {
         SolverForm form;
-        ASSERT_TRUE(form.configure(prototype));
-        const std::string name = prototype.substr(0, prototype.find('['));
-        EXPECT_EQ(form.function_name(), name);
-        EXPECT_EQ(form.has_two_forms(), prototype.find(" or [") != std::string::npos);
-        const std::string inside = prototype.substr(prototype.find('[') + 1,
-                                                    prototype.find(']') - prototype.find('[') - 1);
-        const bool list = inside[0] == '{' || inside.rfind("logicalExp1", 0) == 0;
-        ASSERT_EQ(form.type(), list ? ParameterType::List : ParameterType::Set);
-        Parser parser{"", ""};
-        SolverFailure failure;
-        std::string expected = name + "[" + (list && inside[0] == '{' ? "{" : "");
-        const int boxes = list ? kSolverBoxes : PrototypeParameterCount(inside);
-        ASSERT_EQ(form.num_parameters(), boxes);
-        for (int box = 0; box < boxes; ++box) {
-            ASSERT_TRUE(form.store(parser, box, " 1 ", failure)) << failure.text;
-            expected += box ? ",1" : "1";
-        }
-        expected += (list && inside[0] == '{' ? "}]" : "]");
-        EXPECT_EQ(form.build_expression(), expected);
+        ASSERT_TRUE(form.configure(std::string(constant.prototype)));
+        EXPECT_FALSE(form.has_parameters()) << constant.prototype;
+        EXPECT_EQ(form.num_parameters(), 0);
+        EXPECT_EQ(form.build_expression(), "");
     }
 }
 
