@@ -6,7 +6,6 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <sstream>
 
 #include "calculus_runs.h"
 #include "differentiation_run.h"
@@ -130,10 +129,7 @@ int RunMultipleIntegral(Parser &parser, const CalculusOptions &options, int prec
         error = host.text;
         return 1;
     }
-    complex value{static_cast<double>(result.value), 0.0};
-    std::ostringstream text;
-    parser.stream_answer(value, text, precision);
-    out = text.str() + "\n";
+    out = calculus::AnswerText(parser, result.value, precision) + "\n";
     return 0;
 }
 
@@ -251,10 +247,7 @@ int RunCalculus(Parser &parser, const CalculusOptions &options, std::string &out
         error = outcome.error;
         return 1;
     }
-    complex value{static_cast<double>(outcome.value), 0.0};
-    std::ostringstream text;
-    parser.stream_answer(value, text, precision);
-    out = text.str() + "\n";
+    out = calculus::AnswerText(parser, outcome.value, precision) + "\n";
     return 0;
 }
 

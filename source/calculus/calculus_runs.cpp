@@ -36,12 +36,6 @@ bool EvaluateRange(Parser &parser, const std::string &lowText, const std::string
     return false;
 }
 
-std::string TakeError(Parser &parser) {
-    std::string text = parser.GetLastError() ? parser.GetLastError() : "";
-    parser.ClearLastError();
-    return text;
-}
-
 }  // namespace
 
 Outcome Integrate(Parser &parser, const IntegralRequest &request) {

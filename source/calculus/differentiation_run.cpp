@@ -29,12 +29,6 @@ constexpr long double kDerivativeTolerance = 0.0001L;
 constexpr long double kStepShare = 0.1L;
 constexpr double kImaginaryTolerance = 1e-14;
 
-std::string TakeError(Parser &parser) {
-    std::string text = parser.GetLastError() ? parser.GetLastError() : "";
-    parser.ClearLastError();
-    return text;
-}
-
 }  // namespace
 
 bool DifferentiationTable::has_data() const {

@@ -153,9 +153,7 @@ bool IntegrationRun::integrate1(long double low, long double high, long double a
     if (!error) {
         result = parser.RombIntegrate(map.index(), names[0].c_str(), low, high, accuracy, true);
         if (parser.IsAnError()) {
-            const std::string text = parser.GetLastError() ? parser.GetLastError() : "";
-            parser.ClearLastError();
-            fail(0, text, Field::Function);
+            fail(0, TakeError(parser), Field::Function);
             error = true;
         }
     }

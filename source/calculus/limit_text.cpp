@@ -10,13 +10,13 @@ namespace quindar::calculus {
 
 namespace {
 constexpr double kImaginaryTolerance = 1e-14;
+}  // namespace
 
 std::string TakeError(Parser &parser) {
     std::string text = parser.GetLastError() ? parser.GetLastError() : "";
     parser.ClearLastError();
     return text;
 }
-}  // namespace
 
 std::string Trimmed(const std::string &text) {
     const auto first = text.find_first_not_of(" \t");

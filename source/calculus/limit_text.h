@@ -23,6 +23,8 @@ struct LimitRules {
 };
 
 std::string Trimmed(const std::string &text);
+// The engine's last error text, which is then cleared.
+std::string TakeError(Parser &parser);
 
 bool EvaluateLimit(Parser &parser, const std::string &text, const LimitRules &rules,
                    long double &value, LimitFailure &failure);

@@ -202,8 +202,7 @@ bool SolverForm::store(Parser &parser, int box, const std::string &typed, Solver
     complex value;
     parser.eval_exp(text.c_str(), value, true, false);
     if (parser.IsAnError()) {
-        failure = {0, parser.GetLastError() ? parser.GetLastError() : ""};
-        parser.ClearLastError();
+        failure = {0, TakeError(parser)};
         return false;
     }
     if (parameter_type == ParameterType::List && value.imag != 0.0) {
@@ -284,8 +283,7 @@ bool SolverForm::solve(Parser &parser, int precision, std::string &answer,
     const char *text = parser.eval_exp(call.c_str(), true, false);
     parser.answer_format->precision = kept;
     if (parser.IsAnError() || text == nullptr || *text == '\0') {
-        failure = {0, parser.GetLastError() ? parser.GetLastError() : ""};
-        parser.ClearLastError();
+        failure = {0, TakeError(parser)};
         return false;
     }
     answer = text;

@@ -63,7 +63,9 @@ protected:
 
     void ExpectNothingLeft() {
         EXPECT_EQ(parser.equations.count(), 0);
-        if (parser.find_variable("x") >= 0) EXPECT_FALSE(parser.is_var_locked("x"));
+        if (parser.find_variable("x") >= 0) {
+            EXPECT_FALSE(parser.is_var_locked("x"));
+        }
     }
 
     Parser parser{"", ""};

@@ -32,7 +32,9 @@ protected:
     void ExpectEngineAsBefore() {
         EXPECT_EQ(parser.equations.count(), 0);
         for (const char *name : {"x", "y", "z"})
-            if (parser.find_variable(name) >= 0) EXPECT_FALSE(parser.is_var_locked(name)) << name;
+            if (parser.find_variable(name) >= 0) {
+                EXPECT_FALSE(parser.is_var_locked(name)) << name;
+            }
     }
 
     Parser parser{"", ""};
