@@ -172,55 +172,58 @@ bool IntegrationRun::inner_cell(bool first, bool last, long double &inner) {
     return integrate1(low, high, kInnerAccuracy, inner, first, last);
 }
 
+// Runs `body(i, lastPoint, width)` at each point of the variable's midpoint grid, until it
+// fails (true), Stop is pressed or the grid ends.
+template <class Body>
+bool IntegrationRun::walk_grid(RunVariable &variable, long double low, long double high,
+                               Body body) {
+    const long double width = midpoint_grid(variable, low, high);
+    Variable *v = variable.get();
+    for (int i = 1;; ++i) {
+        if (body(i, i >= points - 1, width)) return true;
+        if (host.stop_requested() || !v->Increment()) return false;
+    }
+}
+
 bool IntegrationRun::integrate2(long double low, long double high, long double &result) {
     if (!take(*variables[1])) return true;
     const double step = 100.0 / points;
     host.progress(0);
-    const long double d = midpoint_grid(*variables[1], low, high);
     result = 0.0L;
-    bool error = false;
-    Variable *y = variables[1]->get();
-    for (int i = 1;; ++i) {
-        const bool first = i == 1;
-        const bool last = i >= points - 1 || host.stop_requested();
+    const bool error = walk_grid(*variables[1], low, high, [&](int i, bool lastY, long double dy) {
         long double inner = 0.0L;
-        error = inner_cell(first, last, inner);
-        if (!error) result += d * inner;
-        host.progress(gauge.advance(points, step, first));
-        if (error || host.stop_requested() || !y->Increment()) break;
-    }
+        const bool failed = inner_cell(i == 1, lastY || host.stop_requested(), inner);
+        if (!failed) result += dy * inner;
+        host.progress(gauge.advance(points, step, i == 1));
+        return failed;
+    });
     if (!host.stop_requested()) host.progress(100);
     return error;
 }
 
+// The gauge follows z; y's limits are read at each z, x's at each (y, z).
 bool IntegrationRun::integrate3(long double low, long double high, long double &result) {
     if (!take(*variables[1]) || !take(*variables[2])) return true;
     const double step = 100.0 / points;
     host.progress(0);
-    const long double dz = midpoint_grid(*variables[2], low, high);
     result = 0.0L;
-    bool error = false;
-    Variable *z = variables[2]->get();
-    for (int i = 1; !error; ++i) {
-        const bool lastZ = i >= points - 1;
+    const bool error = walk_grid(*variables[2], low, high, [&](int i, bool lastZ, long double dz) {
         long double yLow = 0.0L;
         long double yHigh = 0.0L;
-        error = !limit(1, true, yHigh) || !limit(1, false, yLow) ||
-                !ordered_limits(yLow, yHigh, kEqualYLimits);
-        if (error) break;
-        const long double dy = midpoint_grid(*variables[1], yLow, yHigh);
-        Variable *y = variables[1]->get();
-        for (int j = 1;; ++j) {
-            const bool first = i == 1 && j == 1;
-            const bool last = (lastZ && j >= points - 1) || host.stop_requested();
-            long double inner = 0.0L;
-            error = inner_cell(first, last, inner);
-            if (!error) result += dz * dy * inner;
-            if (error || host.stop_requested() || !y->Increment()) break;
-        }
+        if (!limit(1, true, yHigh) || !limit(1, false, yLow) ||
+            !ordered_limits(yLow, yHigh, kEqualYLimits))
+            return true;
+        const bool failed =
+            walk_grid(*variables[1], yLow, yHigh, [&](int j, bool lastY, long double dy) {
+                long double inner = 0.0L;
+                const bool last = (lastZ && lastY) || host.stop_requested();
+                const bool cellFailed = inner_cell(i == 1 && j == 1, last, inner);
+                if (!cellFailed) result += dz * dy * inner;
+                return cellFailed;
+            });
         host.progress(gauge.advance(points, step, i == 1));
-        if (error || host.stop_requested() || !z->Increment()) break;
-    }
+        return failed;
+    });
     if (!host.stop_requested()) host.progress(100);
     return error;
 }

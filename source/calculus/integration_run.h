@@ -71,6 +71,8 @@ private:
     bool give_back(std::unique_ptr<RunVariable> &variable);
     bool integrate1(long double low, long double high, long double accuracy, long double &result,
                     bool first, bool last);
+    template <class Body>
+    bool walk_grid(RunVariable &variable, long double low, long double high, Body body);
     bool integrate2(long double low, long double high, long double &result);
     bool integrate3(long double low, long double high, long double &result);
     bool inner_cell(bool first, bool last, long double &inner);
