@@ -120,6 +120,8 @@ long double IntegrationRun::midpoint_grid(RunVariable &variable, long double low
     v->SetVarHiLimit(complex{static_cast<double>(high - d / 2), 0.0});
     v->SetVarNumPoints(points - 1);
     v->ResetIncrement();
+    // One cell is no range: its centre is the variable's one value.
+    if (points - 1 == 1) variable.set(low + d / 2);
     return d;
 }
 

@@ -163,6 +163,20 @@ TEST_F(IntegrationRunTest, TripleIntegralsNestTheMidpointSums) {
     ExpectEngineAsBefore();
 }
 
+TEST_F(IntegrationRunTest, SliderOneGivesOneCellPerOuterAxis) {
+    IntegrationSettings settings;
+    settings.type = 3;
+    settings.function = "x*y*z";
+    settings.low = {"0", "0", "0"};
+    settings.high = {"y", "z", "2"};
+    settings.slider = 1;
+    const IntegrationResult result = Run(settings);
+    ASSERT_TRUE(result.solved);
+    // z = 1 and y = 0.5 at the centres; the inner integral of x*y*z over [0, y] is y^3 z / 2.
+    ExpectClose(result.value, 2 * 1 * (0.5 * 0.5 * 0.5 * 1 / 2));
+    ExpectEngineAsBefore();
+}
+
 TEST_F(IntegrationRunTest, TheGaugeRunsToOneHundred) {
     // N = 4: three cells of 25 each, and the end sets 100.
     Run(Double("x*y", "0", "1", "0", "1", 2));
@@ -205,6 +219,29 @@ TEST_F(IntegrationRunTest, StopAtAnySampleLeavesNoAnswerAndTheVariablesRestored)
         EXPECT_EQ(parser.find_variable("x"), -1);
         EXPECT_EQ(parser.get_var_value("y").real, 2.0);
         EXPECT_EQ(parser.get_var_numpoints("y"), 6);
+        ExpectEngineAsBefore();
+    }
+}
+
+TEST_F(IntegrationRunTest, StopInATripleIntegralRestoresAllThree) {
+    Line("z = 5");
+    for (long k : {1L, 30L, 500L}) {
+        SCOPED_TRACE(k);
+        host = RecordingHost();
+        host.stop_at_pump = k;
+        IntegrationSettings settings;
+        settings.type = 3;
+        settings.function = "x*y*z";
+        settings.low = {"0", "0", "0"};
+        settings.high = {"y", "z", "1"};
+        settings.slider = 10;
+        const IntegrationResult result = Run(settings);
+        EXPECT_FALSE(result.solved);
+        EXPECT_TRUE(result.stopped);
+        EXPECT_EQ(parser.find_variable("x"), -1);
+        EXPECT_EQ(parser.find_variable("y"), -1);
+        EXPECT_EQ(parser.get_var_value("z").real, 5.0);
+        EXPECT_FALSE(parser.var_incremented("z"));
         ExpectEngineAsBefore();
     }
 }
