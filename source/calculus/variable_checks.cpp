@@ -18,7 +18,7 @@ bool VariableMatches(Parser &parser, const std::string &expression, const std::s
     if (variable.empty() || expression.find(variable) == std::string::npos) return false;
     const int fn = parser.find_function(expression.c_str());
     if (fn < 0) return true;
-    for (const char *name = parser.get_func_variable(fn, true); name != nullptr;
+    for (const char *name = parser.get_func_variable(fn, true); name != nullptr && *name != '\0';
          name = parser.get_func_variable(fn, false))
         if (variable == name) return true;
     return false;

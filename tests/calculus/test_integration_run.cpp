@@ -359,6 +359,14 @@ TEST_F(IntegrationRunTest, UserFunctionsIntegrateOverTheirOwnVariables) {
     IntegrationResult result = Run(settings);
     ASSERT_TRUE(result.solved);
     ExpectClose(result.value, Midpoint(20, 0, 2, [](double b) { return b / 2; }));
+    // A name that stands in the text without being one of the function's variables.
+    settings.parameter = {"f", "b", "z"};
+    result = Run(settings);
+    EXPECT_FALSE(result.solved);
+    ASSERT_EQ(host.messages.size(), 1u);
+    EXPECT_EQ(host.messages[0].text,
+              "f[a,b] is not a function of f and can not be integrated with respect to it.");
+    host = RecordingHost();
     settings.parameter = {"a", "c", "z"};
     result = Run(settings);
     EXPECT_FALSE(result.solved);
