@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cctype>
 #include <memory>
+#include <set>
 
 namespace quindar::calculus {
 
@@ -13,8 +14,6 @@ namespace {
 
 constexpr const char *kCircularFunctions[] = {"SIN",  "COS", "TAN", "ASIN", "ACOS",
                                               "ATAN", "COT", "CSC", "SEC"};
-// Functions calling functions: a chain longer than this is a loop the engine would refuse.
-constexpr int kMaxDepth = 32;
 
 std::string Upper(std::string text) {
     std::transform(text.begin(), text.end(), text.begin(),
@@ -46,17 +45,19 @@ bool CalledBody(Parser &parser, const char *name, std::string &body) {
     return body.find(name) == std::string::npos;
 }
 
-std::string Search(Parser &parser, const std::string &text, int depth) {
+// Each called function is searched once: a second visit can find nothing new, and functions
+// that call each other would otherwise be walked without end.
+std::string Search(Parser &parser, const std::string &text, std::set<std::string> &visited) {
     std::string found = InText(parser, text);
-    if (!found.empty() || depth > kMaxDepth) return found;
+    if (!found.empty()) return found;
     char token[kExpressionSize];
     char type = 0;
     for (const char *rest = parser.get_token(text.c_str(), token, type); rest != nullptr;
          rest = parser.get_token(rest, token, type)) {
-        if (type != kName) continue;
+        if (type != kName || !visited.insert(token).second) continue;
         std::string body;
         if (!CalledBody(parser, token, body)) continue;
-        found = Search(parser, body, depth + 1);
+        found = Search(parser, body, visited);
         if (!found.empty()) return found;
     }
     return {};
@@ -70,7 +71,8 @@ std::string FindCircularFunction(Parser &parser, const std::string &text, int fn
         const std::string own = InText(parser, entry ? entry : "");
         if (!own.empty()) return own;
     }
-    return Search(parser, text, 0);
+    std::set<std::string> visited;
+    return Search(parser, text, visited);
 }
 
 }  // namespace quindar::calculus

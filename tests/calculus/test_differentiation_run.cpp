@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "calculus_messages.h"
+#include "circular_functions.h"
 #include "differentiation_run.h"
 #include "function_library.h"
 #include "parser.h"
@@ -252,6 +253,19 @@ TEST_F(DifferentiationRunTest, EveryRefusalSaysWhy) {
         EXPECT_EQ(parser.find_variable("x"), -1);
         ExpectNothingLeft();
     }
+}
+
+TEST_F(DifferentiationRunTest, TheDegreeTestVisitsEachCalledFunctionOnce) {
+    // Each function calls the next twice; walking every call would take 2^20 visits.
+    Line("f0[x] = x + 1");
+    for (int i = 1; i <= 20; ++i) {
+        const std::string line = "f" + std::to_string(i) + "[x] = f" + std::to_string(i - 1) +
+                                 "[x] * f" + std::to_string(i - 1) + "[x]";
+        Line(line.c_str());
+    }
+    EXPECT_EQ(FindCircularFunction(parser, "x + f20[x]"), "");
+    Line("f0[x] = COS[x] + 1");
+    EXPECT_EQ(FindCircularFunction(parser, "x + f20[x]"), "COS");
 }
 
 TEST_F(DifferentiationRunTest, RadiansLetCircularFunctionsRun) {
