@@ -175,9 +175,15 @@ struct RefusalCase {
     const char *what;
     const char *function, *variable, *start, *end, *steps;
     int id;
-    const char *text;
+    std::string text;
     Field field;
 };
+
+std::string DegreesRefusal(const std::string &name) {
+    return "You can not differentiate the trigonometric function " + name +
+           " while in degrees mode, you must change to radians in order differentiate this "
+           "function.  Use the Mathematical Options dialog to change this setting.";
+}
 
 TEST_F(DifferentiationRunTest, EveryRefusalSaysWhy) {
     Line("g[x] = COS[x] + 1");
@@ -185,31 +191,16 @@ TEST_F(DifferentiationRunTest, EveryRefusalSaysWhy) {
     Line("k[x] = x^2");
     parser.library = std::make_unique<OneCategoryLibrary>();
     const RefusalCase cases[] = {
-        {"sine in degrees", "SIN[x]", "x", "0", "1", "2", 13166,
-         "You can not differentiate the trigonometric function SIN while in degrees mode, you "
-         "must change to radians in order differentiate this function.  Use the Mathematical "
-         "Options dialog to change this setting.",
+        {"sine in degrees", "SIN[x]", "x", "0", "1", "2", 13166, DegreesRefusal("SIN"),
          Field::Function},
-        {"lower case", "2*atan(x)", "x", "0", "1", "2", 13166,
-         "You can not differentiate the trigonometric function ATAN while in degrees mode, you "
-         "must change to radians in order differentiate this function.  Use the Mathematical "
-         "Options dialog to change this setting.",
+        {"lower case", "2*atan(x)", "x", "0", "1", "2", 13166, DegreesRefusal("ATAN"),
          Field::Function},
-        {"inside a user function", "g[x]", "x", "0", "1", "2", 13166,
-         "You can not differentiate the trigonometric function COS while in degrees mode, you "
-         "must change to radians in order differentiate this function.  Use the Mathematical "
-         "Options dialog to change this setting.",
+        {"inside a user function", "g[x]", "x", "0", "1", "2", 13166, DegreesRefusal("COS"),
          Field::Function},
-        {"two functions deep", "x + h[x]", "x", "0", "1", "2", 13166,
-         "You can not differentiate the trigonometric function COS while in degrees mode, you "
-         "must change to radians in order differentiate this function.  Use the Mathematical "
-         "Options dialog to change this setting.",
+        {"two functions deep", "x + h[x]", "x", "0", "1", "2", 13166, DegreesRefusal("COS"),
          Field::Function},
         {"inside a library function", "RANGEOF[3,x]", "x", "0", "1", "2", 13166,
-         "You can not differentiate the trigonometric function SIN while in degrees mode, you "
-         "must change to radians in order differentiate this function.  Use the Mathematical "
-         "Options dialog to change this setting.",
-         Field::Function},
+         DegreesRefusal("SIN"), Field::Function},
         {"not a function of it", "x^2", "y", "0", "1", "2", 13156,
          "x^2 is not a function of y and can not be differentiated with respect to it.",
          Field::Variable},

@@ -258,10 +258,17 @@ TEST(SolverCalls, SetFormSolvesWithEveryBoxFilled) {
     EXPECT_EQ(form.build_expression(), "LOG[8,1+1]");
     EXPECT_EQ(form.box_text(1), "1+1");
     ASSERT_TRUE(form.solve(parser, 6, answer, failure)) << failure.text;
-    EXPECT_NE(answer.find('3'), std::string::npos) << answer;
+    EXPECT_EQ(answer, "3");
+    // The solver's own precision, and the document's kept.
+    const long documentPrecision = parser.answer_format->precision;
+    ASSERT_TRUE(form.store(parser, 0, "2", failure));
+    ASSERT_TRUE(form.store(parser, 1, "10", failure));
+    ASSERT_TRUE(form.solve(parser, 4, answer, failure)) << failure.text;
+    EXPECT_EQ(answer, "0.301");
+    EXPECT_EQ(parser.answer_format->precision, documentPrecision);
     // An empty box removes its entry.
     ASSERT_TRUE(form.store(parser, 0, "  ", failure));
-    EXPECT_EQ(form.build_expression(), "LOG[1+1]");
+    EXPECT_EQ(form.build_expression(), "LOG[10]");
 }
 
 TEST(SolverCalls, ABadEntryIsRefusedWithTheEnginesText) {
