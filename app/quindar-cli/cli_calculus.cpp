@@ -34,6 +34,8 @@ constexpr CalculusOption kCalculusOptions[] = {
 constexpr int kAxisOperands = 3;
 constexpr int kMaxExtraAxes = 2;
 constexpr int kBadOption = 2;
+// The names of --columns: the function, then its derivatives by order.
+const std::string kColumnNames[] = {"f", "1", "2", "3"};
 
 // The utilities' messages go to standard error, one a line, in the order they came.
 class MessageCollector final : public calculus::NullRunHost {
@@ -88,16 +90,13 @@ bool ReadColumns(const std::optional<std::string> &text, std::array<bool, 4> &sh
     while (start <= text->size()) {
         const std::size_t comma = std::min(text->find(',', start), text->size());
         const std::string column = text->substr(start, comma - start);
-        const int index = column == "f"   ? 0
-                          : column == "1" ? 1
-                          : column == "2" ? 2
-                          : column == "3" ? 3
-                                          : -1;
+        const auto found = std::find(std::begin(kColumnNames), std::end(kColumnNames), column);
+        const long index = found == std::end(kColumnNames) ? -1 : found - std::begin(kColumnNames);
         if (index < 0) {
             error = "--columns takes a comma list of f, 1, 2 and 3, not \"" + *text + "\"";
             return false;
         }
-        shown[index] = any = true;
+        shown[static_cast<std::size_t>(index)] = any = true;
         start = comma + 1;
     }
     return any;
