@@ -30,4 +30,4 @@ quindar_cli_test(cli.describe.no-name -DMODE=usage "-DARGS=--describe" -DCODE=2
 quindar_cli_test(cli.precision.too-high -DMODE=usage "-DARGS=--precision|15" -DCODE=2
     "-DSTDERR_HAS=--precision must be a whole number from 1 to 14, not \"15\"")
 quindar_cli_test(cli.precision.not-alone -DMODE=usage "-DARGS=--order|2" -DCODE=2
-    "-DSTDERR_HAS=--order needs --integrate, --derivative or --root")
+    "-DSTDERR_HAS=--order needs --integrate, --derivative, --differentiate or --root")
