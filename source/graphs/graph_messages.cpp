@@ -29,6 +29,13 @@ constexpr GraphMessage kMessages[] = {
     {kMsgIncompatibleFileType,
      "You have selected a file type which is not compatible with the graphing utility, please "
      "choose riles with eExtensions of \".g2d\" or \".g3d\"."},
+    {kMsgGraphWindow, "Graph Window"},
+    {kMsgNoLogX,
+     "Logrithmic X-Axis is only supported for \"Plot\", \"Area\", \"Scatter\", \"HiLo\", "
+     "\"HiLoOpenClose\", and \"Candle\" graph types"},
+    {kMsgNoLogY,
+     "Logrithmic Y-Axis is only supported for \"Plot\", \"Area\", \"Bar\", \"Stacking Bar\", "
+     "\"Scatter\", \"HiLo\", \"HiLoOpenClose\", and \"Candle\" graph types"},
 };
 
 }  // namespace
