@@ -8,13 +8,17 @@ const char *const kUsage =
     "Usage: quindar-cli [--enter] [--in-place] [--radians] [--save DOC.qnd] [FILE]\n"
     "       quindar-cli --integrate EXPR VAR LOW HIGH [--accuracy A] [OPTIONS] [FILE]\n"
     "       quindar-cli --derivative EXPR VAR AT [--order N] [--step H] [OPTIONS] [FILE]\n"
-    "       quindar-cli --root EXPR VAR LOW HIGH [OPTIONS] [FILE]\n";
+    "       quindar-cli --root EXPR VAR LOW HIGH [OPTIONS] [FILE]\n"
+    "       quindar-cli --graph NAME [--graph-spec] [--save-graph OUT.g2d|OUT.g3d] [--radians]\n"
+    "                   DOC.qnd\n";
 
 const char *const kHelp =
     "Usage: quindar-cli [--enter] [--in-place] [--radians] [--save DOC.qnd] [FILE]\n"
     "       quindar-cli --integrate EXPR VAR LOW HIGH [--accuracy A] [OPTIONS] [FILE]\n"
     "       quindar-cli --derivative EXPR VAR AT [--order N] [--step H] [OPTIONS] [FILE]\n"
     "       quindar-cli --root EXPR VAR LOW HIGH [OPTIONS] [FILE]\n"
+    "       quindar-cli --graph NAME [--graph-spec] [--save-graph OUT.g2d|OUT.g3d] [--radians]\n"
+    "                   DOC.qnd\n"
     "Computes every line of FILE (standard input when FILE is missing or \"-\") in a Math\n"
     "Editor and prints the resulting text: each answer is written behind its line (\"2+3\"\n"
     "gives \"2+3 = 5\"), an old answer is replaced, comments and \"//\" lines stay.\n"
@@ -38,6 +42,14 @@ const char *const kHelp =
     "                extrapolated central differences from the starting step --step (0.1)\n"
     "  --root        a root between LOW and HIGH, where EXPR must change sign\n"
     "  --precision   digits of the value, 1 to 14 (6, or 14 for a root)\n"
+    "\n"
+    "--graph builds the graph NAME of the document DOC.qnd (its declarations loaded, its text\n"
+    "not computed) and prints its chart data: \"2D<TAB>SETS<TAB>POINTS\" then\n"
+    "\"SET<TAB>POINT<TAB>X<TAB>Y\" per cell, or \"3D<TAB>NX<TAB>NZ\" then\n"
+    "\"IX<TAB>IZ<TAB>X<TAB>Z<TAB>Y\"; a missing point prints as \"hole\". The lines of the Graph\n"
+    "Errors list go to standard error.\n"
+    "  --graph-spec  print the chart decisions as \"key = value\" lines instead\n"
+    "  --save-graph  also write the built graph as a graph file\n"
 
     "\n"
     "A line that fails stays as typed and its error goes to standard error as\n"

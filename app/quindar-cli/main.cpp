@@ -9,6 +9,7 @@
 #include "cli_calculus.h"
 #include "cli_document.h"
 #include "cli_files.h"
+#include "cli_graph.h"
 #include "cli_options.h"
 #include "memory_text_buffer.h"
 #include "parser.h"
@@ -85,7 +86,11 @@ int Compute(const cli::Options &options, Parser &parser) {
 
 int main(int argc, char **argv) {
     std::string error;
-    const auto options = cli::ParseOptions(std::vector<std::string>(argv + 1, argv + argc), error);
+    std::vector<std::string> arguments(argv + 1, argv + argc);
+    cli::GraphOptions graph;
+    if (!cli::TakeGraphOptions(arguments, graph, error))
+        return Fail(error + "\n" + cli::kUsage + "Try \"quindar-cli --help\".");
+    const auto options = cli::ParseOptions(arguments, error);
     if (!options) return Fail(error + "\n" + cli::kUsage + "Try \"quindar-cli --help\".");
     if (options->help) {
         std::cout << cli::kHelp;
@@ -98,6 +103,7 @@ int main(int argc, char **argv) {
     Parser parser(libraries.c_str(), libraries.c_str());
     Warn(OpenLibraries(parser, libraries));
     if (options->calculus) return Compute(*options, parser);
+    if (graph.name) return cli::RunGraph(graph, options->path, options->radians, parser);
 
     Work work;
     if (!LoadWork(options->path, parser, work, error)) return Fail(error);

@@ -29,6 +29,9 @@ constexpr GraphMessage kMessages[] = {
     {kMsgIncompatibleFileType,
      "You have selected a file type which is not compatible with the graphing utility, please "
      "choose riles with eExtensions of \".g2d\" or \".g3d\"."},
+    {kMsgSharedXOnly,
+     "The X data point values must be equal to use any graph type other than \"Plot\", "
+     "\"Line\", \"Area\", \"Polar\" and \"Scatter\" types. Try using one of these 5 types."},
     {kMsgGraphWindow, "Graph Window"},
     {kMsgNoLogX,
      "Logrithmic X-Axis is only supported for \"Plot\", \"Area\", \"Scatter\", \"HiLo\", "

@@ -19,6 +19,7 @@ inline constexpr int kMsgGraphingUtility = 24628;
 inline constexpr int kMsgNotAGraphFile = 25104;
 inline constexpr int kMsgOpenGraphFileError = 25105;
 inline constexpr int kMsgIncompatibleFileType = 24910;
+inline constexpr int kMsgSharedXOnly = 24906;
 inline constexpr int kMsgGraphWindow = 25101;
 inline constexpr int kMsgNoLogX = 25106;
 inline constexpr int kMsgNoLogY = 25107;
