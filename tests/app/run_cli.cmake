@@ -8,7 +8,10 @@
 #           in place must become SAVED; usage: run with ARGS (and ARGS2) and check CODE,
 #           and that
 #           standard output holds STDOUT_HAS or standard error STDERR_HAS, or standard
-#           output is exactly STDOUT_IS; "|" separates several arguments in ARGS
+#           output is exactly STDOUT_IS; "|" separates several arguments in ARGS;
+#           graph: --graph GRAPH (with ARGS) on INPUT, standard output compared with EXPECTED,
+#           standard error with ERRORS (or empty), the exit status with CODE, and with SAVED
+#           the graph file written by --save-graph compared with it
 cmake_minimum_required(VERSION 3.25)
 
 file(REMOVE_RECURSE ${WORK})
@@ -75,6 +78,31 @@ if(MODE STREQUAL "usage")
         if(NOT text STREQUAL "${STDOUT_IS}\n")
             fail("standard output is not \"${STDOUT_IS}\"")
         endif()
+    endif()
+    return()
+endif()
+
+if(MODE STREQUAL "graph")
+    string(REPLACE "|" ";" ARGS "${ARGS}")
+    set(save_args)
+    if(DEFINED SAVED)
+        get_filename_component(extension ${SAVED} LAST_EXT)
+        set(written ${WORK}/written${extension})
+        set(save_args --save-graph ${written})
+    endif()
+    execute_process(COMMAND ${CLI} --graph ${GRAPH} ${ARGS} ${save_args} ${INPUT}
+        OUTPUT_FILE ${out} ERROR_FILE ${err} RESULT_VARIABLE code)
+    if(NOT code STREQUAL CODE)
+        fail("exit status ${code}, expected ${CODE}")
+    endif()
+    same_file(${out} ${EXPECTED} "the chart data")
+    if(NOT EXISTS ${ERRORS})
+        set(ERRORS ${WORK}/no-errors)
+        file(WRITE ${ERRORS} "")
+    endif()
+    same_file(${err} ${ERRORS} "standard error")
+    if(DEFINED SAVED)
+        same_file(${written} ${SAVED} "the graph file")
     endif()
     return()
 endif()
