@@ -22,6 +22,12 @@ public:
         std::snprintf(number, sizeof number, "%.9g", value);
         add(key, std::string_view(number));
     }
+    // View values are 32-bit floats: seven digits say all they hold.
+    void add(std::string_view key, float value) {
+        char number[32];
+        std::snprintf(number, sizeof number, "%.7g", static_cast<double>(value));
+        add(key, std::string_view(number));
+    }
     void add(std::string_view key, TColor color) {
         add(key, std::to_string(color.Red()) + "," + std::to_string(color.Green()) + "," +
                      std::to_string(color.Blue()));
@@ -111,13 +117,13 @@ std::string describe(const ChartSpec3D &spec) {
     out.add("project.zmax", spec.projectZMax);
     out.add("project.zmin", spec.projectZMin);
     out.add("bars", spec.bars);
-    out.add("view.perspective", static_cast<double>(spec.perspectiveDepth));
-    out.add("view.rotation.x", static_cast<double>(spec.xRotation));
-    out.add("view.rotation.y", static_cast<double>(spec.yRotation));
-    out.add("view.rotation.z", static_cast<double>(spec.zRotation));
-    out.add("view.translate.x", static_cast<double>(spec.xTranslate));
-    out.add("view.translate.y", static_cast<double>(spec.yTranslate));
-    out.add("view.scale", static_cast<double>(spec.scale));
+    out.add("view.perspective", spec.perspectiveDepth);
+    out.add("view.rotation.x", spec.xRotation);
+    out.add("view.rotation.y", spec.yRotation);
+    out.add("view.rotation.z", spec.zRotation);
+    out.add("view.translate.x", spec.xTranslate);
+    out.add("view.translate.y", spec.yTranslate);
+    out.add("view.scale", spec.scale);
     out.labels("data.label.", spec.dataLabels);
     out.colors(spec.colors);
     out.add("grid", spec.gridLines);
