@@ -4,6 +4,7 @@
 #include <cstddef>
 
 #include "chart_spec.h"
+#include "chart_spec_support.h"
 #include "graph_messages.h"
 #include "graph_types.h"
 
@@ -31,12 +32,6 @@ constexpr SetLook kSetLooks[kStyledSets] = {
     {{128, 128, 0}, 15}, {{128, 255, 128}, 16}, {{0, 255, 0}, 7},
 };
 
-struct ColorProperty {
-    int id;
-    TColor GraphData::*field;
-    const char *name;
-};
-
 constexpr ColorProperty kColors2D[] = {
     {0x0200, &GraphData::BackgroundColor, "BackgroundColor"},
     {0x0201, &GraphData::ForegroundColor, "ForegroundColor"},
@@ -61,10 +56,6 @@ ChartMargin resolve_margin(int value, int deflt) {
     if (value != 0) return {value, false};
     if (deflt != 0) return {deflt, false};
     return {0, true};
-}
-
-std::string label_or(const std::string &label, const std::string &name) {
-    return label.empty() ? name : label;
 }
 
 }  // namespace
@@ -104,10 +95,10 @@ ChartSpec2D chart_spec_2d(const GraphData &graph, int angleMode) {
     for (int i = 0; i < functions; ++i) {
         const Function *function = graph.GetFunction(i);
         spec.setLabels[static_cast<std::size_t>(functions - 1 - i)] =
-            label_or(function->label, function->full_name);
+            label_or_name(function->label, function->full_name);
     }
     for (const StrDataPnts *set = graph.DataSets.gethead(); set != nullptr; set = set->next)
-        spec.setLabels.push_back(label_or(set->Label, set->Name));
+        spec.setLabels.push_back(label_or_name(set->Label, set->Name));
 
     for (const ColorProperty &color : kColors2D)
         spec.colors.push_back({color.id, color.name, graph.*color.field});

@@ -2,16 +2,11 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 // The decisions for a 3-D chart.
 #include "chart_spec.h"
+#include "chart_spec_support.h"
 
 namespace quindar {
 
 namespace {
-
-struct ColorProperty {
-    int id;
-    TColor GraphData::*field;
-    const char *name;
-};
 
 constexpr ColorProperty kColors3D[] = {
     {0x0200, &GraphData::BackgroundColor, "BackgroundColor"},
@@ -38,10 +33,6 @@ constexpr ChartProperty kGridOn[] = {{0x1111, 1}, {0x0B05, 3}, {0x1112, 1},
 constexpr ChartProperty kConstants3D[] = {{0x4300, 1}, {0x4301, 1},  {0x4302, 1}, {0x0406, 5},
                                           {0x4601, 3}, {0x4602, 3},  {0x4603, 3}, {0x4604, 3},
                                           {0x010C, 0}, {0x4B00, 100}};
-
-std::string label_or(const std::string &label, const std::string &name) {
-    return label.empty() ? name : label;
-}
 
 }  // namespace
 
@@ -85,9 +76,9 @@ ChartSpec3D chart_spec_3d(const GraphData &graph) {
         spec.grid.push_back({grid.id, spec.gridLines ? grid.value : 0});
 
     for (int i = 0; const Function *function = graph.GetFunction(i); ++i)
-        spec.dataLabels.push_back(label_or(function->label, function->full_name));
+        spec.dataLabels.push_back(label_or_name(function->label, function->full_name));
     for (const StrDataPnts *set = graph.DataSets.gethead(); set != nullptr; set = set->next)
-        spec.dataLabels.push_back(label_or(set->Label, set->Name));
+        spec.dataLabels.push_back(label_or_name(set->Label, set->Name));
     spec.headerFont = "Arial,14,Bold";
     spec.footerFont = "Arial,12,Bold";
     spec.constants.assign(std::begin(kConstants3D), std::end(kConstants3D));

@@ -335,5 +335,36 @@ TEST_F(GraphBuild, AMillionPointRequestIsCancelled) {
     EXPECT_LT(parser.find_variable("x"), 0);
 }
 
+TEST_F(GraphBuild, ThreeDimensionalBuildIsCancelledInsideItsGrid) {
+    Run("q[x,z] = x + z");
+    AddFunction("q[x,z]");
+    SetX("x", 0, 1, 1000);
+    SetZ("z", 0, 1, 1000);
+    host.cancelAt = 2500;  // the report of 0 %, then 2,499 grid points
+    EXPECT_FALSE(Build());
+    EXPECT_TRUE(builder->Cancelled);
+    const ChartGrid3D &grid = *builder->Data3D;
+    EXPECT_NE(grid.value(2, 498), kHoleValue);
+    EXPECT_EQ(grid.value(2, 499), kHoleValue);
+    EXPECT_EQ(grid.value(3, 0), kHoleValue);
+    EXPECT_LT(parser.find_variable("x"), 0);
+    EXPECT_LT(parser.find_variable("z"), 0);
+}
+
+TEST_F(GraphBuild, PointValuesForLabelsComeFromTheDefinition) {
+    Run("q[x,z] = x*z");
+    AddFunction("q[x,z]");
+    SetX("x", 0, 1, 2);
+    SetZ("z", 0, 1, 2);
+    AddDataSet("d", {"1", "2"}, {"10", "2*3"});
+    ASSERT_TRUE(Build());
+    EXPECT_EQ(builder->GetEqnDataSetValueY(complex{3, 0}, complex{0.5, 0}).real, 1.5);
+    complex value;
+    EXPECT_TRUE(builder->GetPntDataSetValueY(0, 1, value));
+    EXPECT_EQ(value.real, 6.0);
+    EXPECT_FALSE(builder->GetPntDataSetValueY(0, 2, value)) << "past the set's last Y";
+    EXPECT_FALSE(builder->GetPntDataSetValueY(1, 0, value)) << "no second set";
+}
+
 }  // namespace
 }  // namespace quindar::testing
