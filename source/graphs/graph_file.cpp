@@ -73,6 +73,21 @@ std::vector<ChartColor> default_colors(const GraphDefaults &defaults, bool three
     return threeD ? chart_spec_3d(plain).colors : chart_spec_2d(plain, 0).colors;
 }
 
+Keys title_keys(const GraphFileTitles &titles) {
+    return {{"Header", titles.header},
+            {"Footer", titles.footer},
+            {"XAxisTitle", titles.xTitle},
+            {"YAxisTitle", titles.yTitle}};
+}
+
+void read_titles(const GraphFileSection &section, GraphFileTitles &titles) {
+    titles.name = section.name();
+    titles.header = text_or_empty(section, "Header");
+    titles.footer = text_or_empty(section, "Footer");
+    titles.xTitle = text_or_empty(section, "XAxisTitle");
+    titles.yTitle = text_or_empty(section, "YAxisTitle");
+}
+
 }  // namespace
 
 GraphFile2D make_graph_file_2d(const GraphData &graph, const ChartData2D &data) {
@@ -147,17 +162,14 @@ int graph_file_kind(const std::string &path) {
 }
 
 std::string graph_file_text(const GraphFile2D &file) {
-    Keys keys = {{"Header", file.header},
-                 {"Footer", file.footer},
-                 {"XAxisTitle", file.xTitle},
-                 {"YAxisTitle", file.yTitle},
-                 {"Type", std::to_string(file.type)},
-                 {"DefaultDepth", std::to_string(file.defaultDepth)},
-                 {"Depth", std::to_string(file.depth)},
-                 {"DefaultInclination", std::to_string(file.defaultInclination)},
-                 {"Inclination", std::to_string(file.inclination)},
-                 {"DefaultRotation", std::to_string(file.defaultRotation)},
-                 {"Rotation", std::to_string(file.rotation)}};
+    Keys keys = title_keys(file);
+    keys.insert(keys.end(), {{"Type", std::to_string(file.type)},
+                             {"DefaultDepth", std::to_string(file.defaultDepth)},
+                             {"Depth", std::to_string(file.depth)},
+                             {"DefaultInclination", std::to_string(file.defaultInclination)},
+                             {"Inclination", std::to_string(file.inclination)},
+                             {"DefaultRotation", std::to_string(file.defaultRotation)},
+                             {"Rotation", std::to_string(file.rotation)}});
     for (std::size_t i = 0; i < 4; ++i)
         keys.emplace_back(std::string("Default") + kMarginKeys[i],
                           std::to_string(file.defaultMargins[i]));
@@ -175,19 +187,16 @@ std::string graph_file_text(const GraphFile2D &file) {
 }
 
 std::string graph_file_text(const GraphFile3D &file) {
-    Keys keys = {{"Header", file.header},
-                 {"Footer", file.footer},
-                 {"XAxisTitle", file.xTitle},
-                 {"YAxisTitle", file.yTitle},
-                 {"ZAxisTitle", file.zTitle},
-                 {"Mesh", std::to_string(file.mesh)},
-                 {"Shade", std::to_string(file.shade)},
-                 {"Contour", std::to_string(file.contour)},
-                 {"Zone", std::to_string(file.zone)},
-                 {"Hidden", std::to_string(file.hidden)},
-                 {"ProjectZMin", std::to_string(file.projectZMin)},
-                 {"ProjectZMax", std::to_string(file.projectZMax)},
-                 {"Surface", std::to_string(file.surface)}};
+    Keys keys = title_keys(file);
+    keys.insert(keys.end(), {{"ZAxisTitle", file.zTitle},
+                             {"Mesh", std::to_string(file.mesh)},
+                             {"Shade", std::to_string(file.shade)},
+                             {"Contour", std::to_string(file.contour)},
+                             {"Zone", std::to_string(file.zone)},
+                             {"Hidden", std::to_string(file.hidden)},
+                             {"ProjectZMin", std::to_string(file.projectZMin)},
+                             {"ProjectZMax", std::to_string(file.projectZMax)},
+                             {"Surface", std::to_string(file.surface)}});
     for (std::size_t i = 0; i < 7; ++i) keys.emplace_back(kViewKeys[i], view_text(file.view[i]));
     for (std::size_t i = 0; i < 7; ++i)
         keys.emplace_back(std::string("Default") + kViewKeys[i], view_text(file.defaultView[i]));
@@ -203,11 +212,7 @@ bool parse_graph_file(const std::string &text, const GraphDefaults &defaults, Gr
     std::string_view rest;
     if (!parse_data_block(text, file.data, rest, error)) return false;
     const GraphFileSection section(rest);
-    file.name = section.name();
-    file.header = text_or_empty(section, "Header");
-    file.footer = text_or_empty(section, "Footer");
-    file.xTitle = text_or_empty(section, "XAxisTitle");
-    file.yTitle = text_or_empty(section, "YAxisTitle");
+    read_titles(section, file);
     file.type = section.integer("Type", 0);
     file.defaultDepth = section.integer("DefaultDepth", 20);
     file.depth = section.integer("Depth", 20);
@@ -246,11 +251,7 @@ bool parse_graph_file(const std::string &text, const GraphDefaults &defaults, Gr
     std::string_view rest;
     if (!parse_data_block(text, file.grid, rest, error)) return false;
     const GraphFileSection section(rest);
-    file.name = section.name();
-    file.header = text_or_empty(section, "Header");
-    file.footer = text_or_empty(section, "Footer");
-    file.xTitle = text_or_empty(section, "XAxisTitle");
-    file.yTitle = text_or_empty(section, "YAxisTitle");
+    read_titles(section, file);
     file.zTitle = text_or_empty(section, "ZAxisTitle");
     file.mesh = section.integer("Mesh", 0);
     file.shade = section.integer("Shade", 0);

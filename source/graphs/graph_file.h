@@ -20,9 +20,14 @@ namespace quindar {
 // Texts read back from a graph file are cut to this many characters.
 inline constexpr std::size_t kGraphFileTextLimit = 127;
 
-struct GraphFile2D {
-    ChartData2D data{1, 0, 0};
+// The texts every graph file has: the section's name (the chart's), header, footer and the
+// titles of the chart's X and Y axes.
+struct GraphFileTitles {
     std::string name, header, footer, xTitle, yTitle;
+};
+
+struct GraphFile2D : GraphFileTitles {
+    ChartData2D data{1, 0, 0};
     // The stored type (Scatter and Line keep their own numbers).
     int type = 0;
     int defaultDepth = 20, depth = 20;
@@ -41,11 +46,10 @@ struct GraphFile2D {
 // The seven view values: perspective depth, X, Y and Z rotation, X and Y translation, scale.
 inline constexpr std::array<float, 7> kDefaultView3D{20.0f, 25.0f, 0.34f, 310.0f, 0.0f, 0.0f, 1.0f};
 
-struct GraphFile3D {
+struct GraphFile3D : GraphFileTitles {
     ChartGrid3D grid = ChartGrid3D::irregular(0, 0, kHoleValue);
-    std::string name, header, footer;
-    // The chart's own axis titles: X, Y (the graph's Z), Z (the graph's Y).
-    std::string xTitle, yTitle, zTitle;
+    // The chart's own axis titles are X, Y (the graph's Z) and Z (the graph's Y).
+    std::string zTitle;
     int mesh = 0, shade = 0, contour = 0, zone = 0, hidden = 0;
     int projectZMin = 0, projectZMax = 0;
     // 1 means bars.
