@@ -11,6 +11,7 @@
 #include "chart_spec.h"
 #include "cli_document.h"
 #include "graph_builder.h"
+#include "graph_error_list.h"
 #include "graph_file.h"
 #include "graph_layout.h"
 #include "graph_messages.h"
@@ -155,15 +156,15 @@ int RunGraph(const GraphOptions &options, const std::string &path, bool radians,
         return std::cout.flush() ? 0 : Fail("cannot write standard output");
     }
 
-    bool errorLines = false;
+    GraphErrorList errors;
     GraphBuildOutput output;
-    output.add_error = [&errorLines](std::string_view line) {
-        errorLines = true;
-        std::cerr << line << '\n';
-    };
+    output.add_error = [&errors](std::string_view line) { errors.AddError(line); };
     output.show_message = [](std::string_view text, std::string_view) { ShowBox(text); };
     GraphBuilder builder(parser, graph, output);
     const bool built = builder.Build(&content.graphs);
+    // The list as the Graph Setup shows it after the build.
+    for (const std::string &line : errors.rows()) std::cerr << line << '\n';
+    const bool errorLines = !errors.rows().empty();
     if (builder.Data2D) Print(*builder.Data2D);
     if (builder.Data3D) Print(*builder.Data3D);
     if (!std::cout.flush()) return Fail("cannot write standard output");

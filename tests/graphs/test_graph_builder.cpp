@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 #include <gtest/gtest.h>
 
+#include "graph_error_list.h"
 #include "graph_fixture.h"
 
 namespace quindar::testing {
@@ -152,8 +153,7 @@ TEST_F(GraphBuild, AFunctionFailingAtBothFirstPointsCannotBeMapped) {
     EXPECT_EQ(errors[1], "\"w[x]\" could not be mapped. Graph could not be created!");
 }
 
-TEST_F(GraphBuild, AFunctionFailingEverywhereAfterMappingHolesEveryPoint) {
-    Run("v[x] = SQRT[x-5]");  // complex, never an error
+TEST_F(GraphBuild, AFunctionFailingAtTheHighLimitHolesThatPoint) {
     Run("u[x] = 1/(x-1)");
     AddFunction("u[x]");
     SetX("x", 0, 1, 2);
@@ -364,6 +364,34 @@ TEST_F(GraphBuild, PointValuesForLabelsComeFromTheDefinition) {
     EXPECT_EQ(value.real, 6.0);
     EXPECT_FALSE(builder->GetPntDataSetValueY(0, 2, value)) << "past the set's last Y";
     EXPECT_FALSE(builder->GetPntDataSetValueY(1, 0, value)) << "no second set";
+}
+
+TEST(GraphErrorList, KeepsTheNewest101Rows) {
+    GraphErrorList list;
+    list.AddError(static_cast<const char *>(nullptr));
+    EXPECT_TRUE(list.rows().empty());
+    for (int i = 0; i < 150; ++i) list.AddError(std::to_string(i));
+    ASSERT_EQ(list.rows().size(), 101u);
+    EXPECT_EQ(list.rows().front(), "49");
+    EXPECT_EQ(list.rows().back(), "149");
+    list.ClearErrors();
+    EXPECT_TRUE(list.rows().empty());
+}
+
+TEST_F(GraphBuild, AFunctionFailingAtEveryPointButOneFillsTheListToItsSize) {
+    Run("u[x] = 1/((x>0)-1)");  // defined at x = 0 only, where it is mapped
+    AddFunction("u[x]");
+    SetX("x", 0, 1, 300);
+    GraphErrorList list;
+    GraphBuildOutput output;
+    output.add_error = [&list](std::string_view line) { list.AddError(line); };
+    builder = std::make_unique<GraphBuilder>(parser, graph, output);
+    builder->Build();
+    ASSERT_TRUE(builder->Data2D);
+    EXPECT_EQ(builder->Data2D->y(0, 0), -1.0);
+    for (int p = 1; p < 300; ++p) EXPECT_EQ(builder->Data2D->y(0, p), kHoleValue) << p;
+    ASSERT_EQ(list.rows().size(), 101u);
+    EXPECT_EQ(list.rows().back().rfind("An error occured at x = 1 : ", 0), 0u);
 }
 
 }  // namespace
