@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <random>
 
 #include "graph_file.h"
 #include "temp_folder.h"
@@ -215,6 +216,29 @@ TEST(GraphFile, TruncatedAndForeignFilesAreRefusedWithAReason) {
     std::string error;
     EXPECT_FALSE(parse_graph_file(three, GraphDefaults{}, wrongKind, error));
     EXPECT_EQ(error, "the graph data is not of this kind of graph");
+}
+
+TEST(GraphFile, DamagedBytesNeverCrashTheReader) {
+    const std::string texts[] = {
+        graph_file_text(make_graph_file_2d(Graph2D(2), Data2D(2))),
+        graph_file_text(make_graph_file_3d(Graph3D(), ChartGrid3D::irregular(3, 2, kHoleValue)))};
+    const char replacements[] = {'\n', '[', '=', '-', '9', ' ', 'e', '\0', 'X'};
+    std::mt19937 random(20261123);
+    int readable = 0;
+    for (const std::string &original : texts) {
+        for (int round = 0; round < 400; ++round) {
+            std::string text = original;
+            for (int k = 0; k < 3; ++k)
+                text[random() % text.size()] = replacements[random() % sizeof replacements];
+            GraphFile2D two;
+            GraphFile3D three;
+            std::string error;
+            readable += parse_graph_file(text, GraphDefaults{}, two, error) ? 1 : 0;
+            readable += parse_graph_file(text, GraphDefaults{}, three, error) ? 1 : 0;
+        }
+    }
+    EXPECT_GT(readable, 0) << "damage in the section alone still reads";
+    EXPECT_LT(readable, 800);
 }
 
 TEST(GraphFile, KindFromThePathWhateverTheCase) {
