@@ -100,6 +100,9 @@ DataStyle data_style(int storedType, int set);
 int chart_type_2d(int storedType);
 
 ChartSpec2D chart_spec_2d(const GraphData &graph, int angleMode);
+// What a stored 2-D type decides alone: chart type, styles, Pie, HiLo Open Close and angle
+// settings, fonts and constants.
+void set_type_decisions(ChartSpec2D &spec, int type, int angleMode);
 ChartSpec3D chart_spec_3d(const GraphData &graph);
 
 // Switches off in graph the logarithmic axes that its type does not allow, as the chart did.

@@ -77,18 +77,29 @@ int chart_type_2d(int storedType) {
     return type != nullptr ? type->chart : storedType;
 }
 
+void set_type_decisions(ChartSpec2D &spec, int type, int angleMode) {
+    spec.storedType = type;
+    spec.chartType = chart_type_2d(type);
+    for (int set = 0; set < kStyledSets; ++set)
+        spec.styles[static_cast<std::size_t>(set)] = data_style(type, set);
+    spec.pie = type == kPie;
+    spec.hiLoOpenClose = type == kHiLoOpenClose;
+    const bool polar = type == kPolar || type == kRadar || type == kRadarFilled;
+    spec.angleUnit = polar && angleMode == 1 ? 2 : 0;
+    spec.headerFont = "Arial,14,Bold";
+    spec.footerFont = "Arial,12,Bold";
+    spec.constants.assign(std::begin(kConstants2D), std::end(kConstants2D));
+}
+
 ChartSpec2D chart_spec_2d(const GraphData &graph, int angleMode) {
     ChartSpec2D spec;
     const int type = graph.GraphType2D;
-    spec.storedType = type;
-    spec.chartType = chart_type_2d(type);
+    set_type_decisions(spec, type, angleMode);
     spec.name = graph.Name;
     spec.header = graph.Header;
     spec.footer = graph.Footer;
     spec.xTitle = graph.XAxisTitle;
     spec.yTitle = graph.YAxisTitle;
-    for (int set = 0; set < kStyledSets; ++set)
-        spec.styles[static_cast<std::size_t>(set)] = data_style(type, set);
 
     const int functions = graph.GetNumFunctions();
     spec.setLabels.resize(static_cast<std::size_t>(functions));
@@ -123,16 +134,9 @@ ChartSpec2D chart_spec_2d(const GraphData &graph, int angleMode) {
     spec.marginLeft = resolve_margin(graph.MarginLeft2D, graph.DefaultMarginLeft2D);
     spec.marginRight = resolve_margin(graph.MarginRight2D, graph.DefaultMarginRight2D);
 
-    spec.pie = type == kPie;
     spec.pieParam1 = graph.PieParam1;
     spec.pieParam2 = graph.PieParam2;
     spec.pieParam3 = graph.PieParam3;
-    spec.hiLoOpenClose = type == kHiLoOpenClose;
-    const bool polar = type == kPolar || type == kRadar || type == kRadarFilled;
-    spec.angleUnit = polar && angleMode == 1 ? 2 : 0;
-    spec.headerFont = "Arial,14,Bold";
-    spec.footerFont = "Arial,12,Bold";
-    spec.constants.assign(std::begin(kConstants2D), std::end(kConstants2D));
     return spec;
 }
 

@@ -81,6 +81,11 @@ bool parse_graph_file(const std::string &text, const GraphDefaults &defaults, Gr
 bool parse_graph_file(const std::string &text, const GraphDefaults &defaults, GraphFile3D &file,
                       std::string &error);
 
+// The chart decisions of a graph opened from a file: everything comes from the file, the
+// logarithmic axes as they were saved and every margin as a value, 0 included.
+ChartSpec2D chart_spec_2d(const GraphFile2D &file, int angleMode);
+ChartSpec3D chart_spec_3d(const GraphFile3D &file);
+
 // The file on disk, written through a temporary file beside it; false with the reason.
 bool save_graph_file(const std::string &path, const std::string &text, std::string &error);
 bool load_graph_file_text(const std::string &path, std::string &text, std::string &error);

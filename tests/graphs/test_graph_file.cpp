@@ -241,6 +241,34 @@ TEST(GraphFile, DamagedBytesNeverCrashTheReader) {
     EXPECT_LT(readable, 800);
 }
 
+TEST(GraphFile, ChartDecisionsOfAnOpenedFileComeFromTheFile) {
+    GraphData graph = Graph2D(1);
+    graph.YAxisLogarithmic = 1;
+    graph.ShowGridLines = 0;
+    GraphFile2D file = make_graph_file_2d(graph, Data2D(1));
+    file.xLogarithmic = 1;  // as a section may hold it
+    const ChartSpec2D spec = chart_spec_2d(file, 0);
+    EXPECT_EQ(spec.storedType, 13);
+    EXPECT_EQ(spec.chartType, 1);
+    EXPECT_EQ(spec.styles[0].linePattern, 1) << "Scatter keeps its markers without a line";
+    EXPECT_EQ(spec.name, "Sales 2-D");
+    EXPECT_EQ(spec.setLabels, (std::vector<std::string>{"g[x]", "the f", ""}));
+    EXPECT_TRUE(spec.logX);
+    EXPECT_TRUE(spec.logY);
+    EXPECT_TRUE(spec.refusals.empty());
+    EXPECT_FALSE(spec.gridLines);
+    EXPECT_EQ(spec.marginBottom, (ChartMargin{0, false})) << "0 from a file is a value";
+    EXPECT_EQ(spec.marginTop, (ChartMargin{40, false}));
+    EXPECT_EQ(spec.colors[8].color, TColor(1, 2, 3));
+
+    GraphData surface = Graph3D();
+    surface.ShowGridLines = 0;
+    const ChartSpec3D spec3 =
+        chart_spec_3d(make_graph_file_3d(surface, ChartGrid3D::irregular(1, 1, kHoleValue)));
+    const ChartSpec3D direct = chart_spec_3d(surface);
+    EXPECT_EQ(describe(spec3), describe(direct)) << "the file keeps every 3-D decision";
+}
+
 TEST(GraphFile, KindFromThePathWhateverTheCase) {
     EXPECT_EQ(graph_file_kind("/a/b.g2d"), 1);
     EXPECT_EQ(graph_file_kind("/a/B.G3D"), 2);
