@@ -152,8 +152,9 @@ bool GraphBuilder::SetGraphVariables() {
 }
 
 void GraphBuilder::SetComLineVariables() {
+    // Z first: when both axes name one variable, the X snapshot is the one taken first.
     const std::pair<const std::unique_ptr<Variable> *, const std::unique_ptr<Variable> *> axes[] = {
-        {&XAxisVarWork, &graph.CLXAxisVar}, {&ZAxisVarWork, &graph.CLZAxisVar}};
+        {&ZAxisVarWork, &graph.CLZAxisVar}, {&XAxisVarWork, &graph.CLXAxisVar}};
     for (const auto &[work, snapshot] : axes) {
         if (!*work) continue;
         const int index = parser.find_variable((*work)->name.c_str());

@@ -103,6 +103,18 @@ INSTANTIATE_TEST_SUITE_P(EveryWayOut, AxisVariableLending,
                              return name;
                          });
 
+TEST_F(GraphBuild, BothAxesOnOneVariableGiveItBackAsItWas) {
+    Run("x = 7");
+    Run("f[x] = x");
+    AddFunction("f[x]");
+    SetX("x", 0, 1, 3);
+    SetZ("x", 5, 6, 2);
+    Build();
+    ASSERT_GE(parser.find_variable("x"), 0);
+    EXPECT_EQ(parser.get_var_value("x").real, 7.0);
+    EXPECT_FALSE(parser.var_incremented("x"));
+}
+
 TEST_F(GraphBuild, CancelStopsAtTheReportAndKeepsThePartialData) {
     Run("f[x] = x");
     Run("g[x] = 2*x");
