@@ -32,6 +32,9 @@ public:
     virtual void set_progress_percent(int percent) { (void)percent; }
     // Cancel of the progress that a build reports to.
     virtual bool progress_cancelled() { return false; }
+    // True when the windows the computation draws into have gone (closed through the pump):
+    // a 3-D build asks before each grid point and stops.
+    virtual bool owner_gone() { return false; }
 };
 
 // The earlier name of the host.

@@ -378,6 +378,10 @@ bool GraphBuilder::Create3DData() {
         zVar->locked = true;
         zVar->ResetIncrement();
         for (int iz = 0; iz < nz; ++iz) {
+            if (host->owner_gone()) {
+                Cancelled = true;
+                break;
+            }
             for (int map = EquationBase + 1; map <= EquationBase + NumFunctions; ++map) {
                 const complex y = parser.solve_equation(map, false, true);
                 if (!parser.IsAnError()) {

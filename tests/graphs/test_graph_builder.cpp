@@ -2,6 +2,8 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "graph_error_list.h"
 #include "graph_fixture.h"
 
@@ -315,6 +317,59 @@ TEST_F(GraphBuild, ASecondBuildWhileOneRunsIsRefused) {
     EXPECT_TRUE(builder->Refused);
     EXPECT_FALSE(builder->Data2D);
     EXPECT_LT(parser.find_variable("x"), 0) << "nothing was lent";
+}
+
+// A host whose pump runs a command in the middle of the build, as the desktop's does.
+class ReentrantHost final : public ComputeHost {
+public:
+    explicit ReentrantHost(std::function<void()> command) : command(std::move(command)) {}
+    void set_progress_percent(int) override {
+        if (++reports == 3) command();
+    }
+    bool owner_gone() override { return gone; }
+    std::function<void()> command;
+    int reports = 0;
+    bool gone = false;
+};
+
+TEST_F(GraphBuild, WhatThePumpLetsInFindsTheBuildGuarded) {
+    Run("x = 3");
+    Run("f[x] = x");
+    AddFunction("f[x]");
+    SetX("x", 0, 1, 11);
+    GraphData second("Second");
+    second.AddFunction("f[x]", "x");
+    const Variable axis("x", complex{5, 0}, complex{6, 0}, 2);
+    second.SetXAxisVar(&axis);
+    bool secondRefused = false;
+    std::string reading;
+    ReentrantHost pumping([&] {
+        GraphBuilder nested(parser, second);
+        secondRefused = !nested.Build() && nested.Refused;
+        parser.eval_exp("x + 1", true, false);
+        reading = parser.IsAnError() ? parser.GetLastError() : "";
+        parser.ClearLastError();
+    });
+    parser.set_computation_hooks(&pumping);
+    EXPECT_TRUE(Build());
+    EXPECT_TRUE(secondRefused) << "a second build on the same document";
+    EXPECT_EQ(reading, "Variable ' x ' has been temporarily locked by another running process!");
+    EXPECT_DOUBLE_EQ(builder->Data2D->y(0, 10), 1.0) << "the running build is undisturbed";
+    EXPECT_EQ(parser.get_var_value("x").real, 3.0);
+}
+
+TEST_F(GraphBuild, AThreeDimensionalBuildStopsWhenItsWindowsHaveGone) {
+    Run("q[x,z] = x*z");
+    AddFunction("q[x,z]");
+    SetX("x", 0, 1, 5);
+    SetZ("z", 0, 1, 5);
+    ReentrantHost closing([] {});
+    closing.gone = true;
+    parser.set_computation_hooks(&closing);
+    EXPECT_FALSE(Build());
+    EXPECT_TRUE(builder->Cancelled);
+    EXPECT_EQ(builder->Data3D->value(0, 0), kHoleValue);
+    EXPECT_LT(parser.find_variable("z"), 0);
 }
 
 TEST_F(GraphBuild, ASuccessfulBuildMarksTheListsGraphs) {
