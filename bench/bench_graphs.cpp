@@ -87,4 +87,32 @@ void BM_map_solver_2d(benchmark::State &state) {
 }
 BENCHMARK(BM_map_solver_2d)->Arg(2000)->Unit(benchmark::kMillisecond);
 
+// The map solver alone at the 3-D graph's grid points.
+void BM_map_solver_3d(benchmark::State &state) {
+    const long side = state.range(0);
+    quindar::Parser parser("", "");
+    parser.eval_exp("x = 1", true, false);
+    parser.eval_exp("z = 1", true, false);
+    parser.current_equation = parser.equations.add();
+    parser.mapping = true;
+    parser.eval_exp(kFunction3D, true, true);
+    const int map = parser.equations.count();
+    double sum = 0;
+    for (auto _ : state) {
+        for (long i = 0; i < side; ++i) {
+            parser.set_var_value(complex{0.5 + 9.5 * static_cast<double>(i) / (side - 1), 0}, "x");
+            for (long k = 0; k < side; ++k) {
+                parser.set_var_value(complex{-5 + 10.0 * static_cast<double>(k) / (side - 1), 0},
+                                     "z");
+                sum += parser.solve_equation(map, false, true).real;
+            }
+        }
+    }
+    benchmark::DoNotOptimize(sum);
+    state.counters["s/point"] = benchmark::Counter(
+        static_cast<double>(side * side),
+        benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+}
+BENCHMARK(BM_map_solver_3d)->Arg(100)->Unit(benchmark::kMillisecond);
+
 }  // namespace
