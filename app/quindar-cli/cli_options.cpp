@@ -47,7 +47,8 @@ const char *const kHelp =
     "not computed) and prints its chart data: \"2D<TAB>SETS<TAB>POINTS\" then\n"
     "\"SET<TAB>POINT<TAB>X<TAB>Y\" per cell, or \"3D<TAB>NX<TAB>NZ\" then\n"
     "\"IX<TAB>IZ<TAB>X<TAB>Z<TAB>Y\"; a missing point prints as \"hole\". The lines of the Graph\n"
-    "Errors list go to standard error.\n"
+    "Errors list go to standard error; the exit status is 1 when the build failed or wrote\n"
+    "one, 2 when the document or the graph is missing.\n"
     "  --graph-spec  print the chart decisions as \"key = value\" lines instead\n"
     "  --save-graph  also write the built graph as a graph file\n"
 
