@@ -97,6 +97,12 @@ bool named_count(const std::vector<std::string_view> &words, std::size_t at, std
     return words.size() > at + 1 && words[at] == name && to_count(words[at + 1], value);
 }
 
+// Every value takes at least two characters (a digit and a blank), so a count that the rest
+// of the text cannot hold is a damaged file, found before anything is allocated for it.
+bool text_can_hold(const BlockReader &reader, long long values) {
+    return static_cast<long long>(reader.remaining().size()) >= 2 * values;
+}
+
 bool fail(std::string &error, const char *why) {
     error = why;
     return false;
@@ -191,6 +197,7 @@ bool parse_data_block(std::string_view text, ChartData2D &data, std::string_view
         return fail(error, "the graph data is damaged: bad layout line");
     double hole = kHoleValue;
     if (!read_hole(reader, hole, error)) return false;
+    if (!text_can_hold(reader, sets * points)) return fail(error, "the graph data is cut short");
     ChartData2D read(static_cast<int>(layout), static_cast<int>(sets), static_cast<int>(points),
                      hole);
     std::vector<double> row;
@@ -232,6 +239,7 @@ bool parse_data_block(std::string_view text, ChartGrid3D &grid, std::string_view
     const bool regular = (*shape)[1] == "REGULAR";
     double hole = kHoleValue;
     if (!read_hole(reader, hole, error)) return false;
+    if (!text_can_hold(reader, nx * nz)) return fail(error, "the graph data is cut short");
     std::vector<double> row;
     const auto read_row = [&](std::string_view head, long long n) {
         const auto line = reader.expect(head);

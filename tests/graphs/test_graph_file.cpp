@@ -206,12 +206,19 @@ TEST(GraphFile, TruncatedAndForeignFilesAreRefusedWithAReason) {
         "QUINDAR GRAPH DATA 1\nKIND 2D\nLAYOUT 1 SETS 1 POINTS 2\nHOLE 1e308\nX 1 two\n",
         "QUINDAR GRAPH DATA 1\nKIND 2D\nLAYOUT 1 SETS 1 POINTS 2\nHOLE 1e308\nX 1 2 3\n",
         "QUINDAR GRAPH DATA 1\nKIND 2D\nLAYOUT 1 SETS -1 POINTS 2\nHOLE 1e308\n",
+        "QUINDAR GRAPH DATA 1\nKIND 2D\nLAYOUT 2 SETS 9000 POINTS 9000\nHOLE 1e308\nSET 0\n",
     };
     for (const char *text : foreign) {
         GraphFile2D read;
         std::string error;
         EXPECT_FALSE(parse_graph_file(text, GraphDefaults{}, read, error)) << text;
     }
+    GraphFile3D huge;
+    std::string reason;
+    EXPECT_FALSE(parse_graph_file(
+        "QUINDAR GRAPH DATA 1\nKIND 3D\nGRID REGULAR NX 9000 NZ 9000\nHOLE 1e308\n",
+        GraphDefaults{}, huge, reason));
+    EXPECT_EQ(reason, "the graph data is cut short");
     GraphFile2D wrongKind;
     std::string error;
     EXPECT_FALSE(parse_graph_file(three, GraphDefaults{}, wrongKind, error));
