@@ -4,6 +4,7 @@
 #include "graph_builder.h"
 
 #include <algorithm>
+#include <cctype>
 #include <sstream>
 
 #include "graph_messages.h"
@@ -27,6 +28,13 @@ void assign_keeping_links(Variable &to, const Variable &from) {
 }
 
 }  // namespace
+
+std::string graph_window_caption(std::string_view editorCaption, std::string_view graphName) {
+    if (editorCaption.empty()) return "Graph";
+    std::string caption = std::string(editorCaption) + " : " + std::string(graphName);
+    for (char &c : caption) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+    return caption;
+}
 
 int data_set_x_count(const StrDataPnts &set) {
     for (int i = set.XPoints.maxfullindex(); i >= 0; --i)

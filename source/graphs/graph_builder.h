@@ -100,6 +100,10 @@ private:
     bool lent = false;
 };
 
+// The graph window's caption after a build: "EDITOR : GRAPH" in upper case, or "Graph" when
+// the editor has no caption.
+std::string graph_window_caption(std::string_view editorCaption, std::string_view graphName);
+
 // The highest occupied X slot of a data set plus one; 0 for none.
 int data_set_x_count(const StrDataPnts &set);
 

@@ -433,6 +433,11 @@ TEST_F(GraphBuild, PointValuesForLabelsComeFromTheDefinition) {
     EXPECT_FALSE(builder->GetPntDataSetValueY(1, 0, value)) << "no second set";
 }
 
+TEST(GraphWindowCaption, EditorAndGraphInUpperCase) {
+    EXPECT_EQ(graph_window_caption("notes.qnd", "Sales 2"), "NOTES.QND : SALES 2");
+    EXPECT_EQ(graph_window_caption("", "Sales"), "Graph");
+}
+
 TEST(GraphErrorList, KeepsTheNewest101Rows) {
     GraphErrorList list;
     list.AddError(static_cast<const char *>(nullptr));
