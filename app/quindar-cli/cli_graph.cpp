@@ -125,7 +125,11 @@ bool TakeGraphOptions(std::vector<std::string> &arguments, GraphOptions &graph,
     return true;
 }
 
-int RunGraph(const GraphOptions &options, const std::string &path, bool radians, Parser &parser) {
+int RunGraph(const GraphOptions &options, const Options &run, Parser &parser) {
+    if (run.calculus || run.inPlace || !run.savePath.empty() || run.key != RunKey::F4)
+        return Fail("--graph goes with --radians, --graph-spec and --save-graph only");
+    const std::string &path = run.path;
+    const bool radians = run.radians;
     if (!IsDocumentPath(path)) return Fail("--graph needs a document (DOC.qnd)");
     DocumentContent content;
     std::vector<std::string> messages;

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "cli_options.h"
 #include "parser.h"
 
 namespace quindar::cli {
@@ -23,8 +24,8 @@ struct GraphOptions {
 // reason in error when one lacks its value or stands without --graph.
 bool TakeGraphOptions(std::vector<std::string> &arguments, GraphOptions &graph, std::string &error);
 
-// Builds the graph of the document at path and prints it. Returns the exit status: 0 built
-// with no error line, 1 failed or wrote error lines, 2 a usage or file error.
-int RunGraph(const GraphOptions &graph, const std::string &path, bool radians, Parser &parser);
+// Builds the graph of the document named in options and prints it. Returns the exit status:
+// 0 built with no error line, 1 failed or wrote error lines, 2 a usage or file error.
+int RunGraph(const GraphOptions &graph, const Options &options, Parser &parser);
 
 }  // namespace quindar::cli

@@ -103,7 +103,7 @@ int main(int argc, char **argv) {
     Parser parser(libraries.c_str(), libraries.c_str());
     Warn(OpenLibraries(parser, libraries));
     if (options->calculus) return Compute(*options, parser);
-    if (graph.name) return cli::RunGraph(graph, options->path, options->radians, parser);
+    if (graph.name) return cli::RunGraph(graph, *options, parser);
 
     Work work;
     if (!LoadWork(options->path, parser, work, error)) return Fail(error);
