@@ -102,8 +102,8 @@ int main(int argc, char **argv) {
     create_user_library(libraries);
     Parser parser(libraries.c_str(), libraries.c_str());
     Warn(OpenLibraries(parser, libraries));
-    if (options->calculus) return Compute(*options, parser);
     if (graph.name) return cli::RunGraph(graph, *options, parser);
+    if (options->calculus) return Compute(*options, parser);
 
     Work work;
     if (!LoadWork(options->path, parser, work, error)) return Fail(error);
