@@ -12,7 +12,9 @@ const char *const kUsage =
     "                   [--accuracy A] [OPTIONS] [FILE]\n"
     "       quindar-cli --derivative EXPR VAR AT [--order N] [--step H] [OPTIONS] [FILE]\n"
     "       quindar-cli --differentiate EXPR VAR XO XN N [--columns LIST] [OPTIONS] [FILE]\n"
-    "       quindar-cli --root EXPR VAR LOW HIGH [OPTIONS] [FILE]\n";
+    "       quindar-cli --root EXPR VAR LOW HIGH [OPTIONS] [FILE]\n"
+    "       quindar-cli --graph NAME [--graph-spec] [--save-graph OUT.g2d|OUT.g3d] [--radians]\n"
+    "                   DOC.qnd\n";
 
 const char *const kHelp =
     "Usage: quindar-cli [--enter] [--in-place] [--radians] [--precision N] [--save DOC.qnd]\n"
@@ -23,6 +25,8 @@ const char *const kHelp =
     "       quindar-cli --derivative EXPR VAR AT [--order N] [--step H] [OPTIONS] [FILE]\n"
     "       quindar-cli --differentiate EXPR VAR XO XN N [--columns LIST] [OPTIONS] [FILE]\n"
     "       quindar-cli --root EXPR VAR LOW HIGH [OPTIONS] [FILE]\n"
+    "       quindar-cli --graph NAME [--graph-spec] [--save-graph OUT.g2d|OUT.g3d] [--radians]\n"
+    "                   DOC.qnd\n"
     "Computes every line of FILE (standard input when FILE is missing or \"-\") in a Math\n"
     "Editor and prints the resulting text: each answer is written behind its line (\"2+3\"\n"
     "gives \"2+3 = 5\"), an old answer is replaced, comments and \"//\" lines stay.\n"
@@ -61,6 +65,15 @@ const char *const kHelp =
     "                (the function and its derivatives; all four unless given)\n"
     "  --root        a root between LOW and HIGH, where EXPR must change sign\n"
     "  --precision   digits of the value, 1 to 14 (6, or 14 for a root)\n"
+    "\n"
+    "--graph builds the graph NAME of the document DOC.qnd (its declarations loaded, its text\n"
+    "not computed) and prints its chart data: \"2D<TAB>SETS<TAB>POINTS\" then\n"
+    "\"SET<TAB>POINT<TAB>X<TAB>Y\" per cell, or \"3D<TAB>NX<TAB>NZ\" then\n"
+    "\"IX<TAB>IZ<TAB>X<TAB>Z<TAB>Y\"; a missing point prints as \"hole\". The lines of the Graph\n"
+    "Errors list go to standard error; the exit status is 1 when the build failed or wrote\n"
+    "one, 2 when the document or the graph is missing.\n"
+    "  --graph-spec  print the chart decisions as \"key = value\" lines instead\n"
+    "  --save-graph  also write the built graph as a graph file\n"
 
     "\n"
     "A line that fails stays as typed and its error goes to standard error as\n"

@@ -10,6 +10,7 @@
 #include "cli_describe.h"
 #include "cli_document.h"
 #include "cli_files.h"
+#include "cli_graph.h"
 #include "cli_options.h"
 #include "memory_text_buffer.h"
 #include "parser.h"
@@ -83,7 +84,11 @@ int Compute(const cli::Options &options, Parser &parser) {
 
 int main(int argc, char **argv) {
     std::string error;
-    const auto options = cli::ParseOptions(std::vector<std::string>(argv + 1, argv + argc), error);
+    std::vector<std::string> arguments(argv + 1, argv + argc);
+    cli::GraphOptions graph;
+    if (!cli::TakeGraphOptions(arguments, graph, error))
+        return Fail(error + "\n" + cli::kUsage + "Try \"quindar-cli --help\".");
+    const auto options = cli::ParseOptions(arguments, error);
     if (!options) return Fail(error + "\n" + cli::kUsage + "Try \"quindar-cli --help\".");
     if (options->help) {
         std::cout << cli::kHelp;
@@ -95,6 +100,7 @@ int main(int argc, char **argv) {
     create_user_library(libraries);
     Parser parser(libraries.c_str(), libraries.c_str());
     Warn(OpenLibraries(parser, libraries));
+    if (graph.name) return cli::RunGraph(graph, *options, parser);
     if (options->calculus) return Compute(*options, parser);
     if (options->describe.Wanted()) {
         const int status = cli::RunDescribe(options->describe, libraries, std::cout, error);
