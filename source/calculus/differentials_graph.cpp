@@ -44,12 +44,12 @@ std::string DifferentialsGraphName(const std::string &function) {
 
 DifferentialsGraph BuildDifferentialsGraph(Parser &parser, GraphList &graphs,
                                            const DifferentiationTable &table, int precision,
-                                           const GraphSettings *settings) {
+                                           const GraphDefaults *defaults) {
     DifferentialsGraph built;
     const std::string name = DifferentialsGraphName(table.function);
     GraphData *graph = Find(graphs, name);
     if (graph == nullptr) {
-        graph = add_new_graph(graphs, name.c_str(), settings);
+        graph = add_new_graph(graphs, name.c_str(), defaults);
         built.created = true;
         graph->Directory.clear();
         graph->SetHeader("Differentiation Plot");
@@ -60,8 +60,10 @@ DifferentialsGraph BuildDifferentialsGraph(Parser &parser, GraphList &graphs,
         graph->DataSets.flush();
     }
     built.graph = graph;
-    graph->SetDefaultOrientation(settings);
-    graph->SetDefaultColors(settings);
+    const GraphDefaults fallback;
+    const GraphDefaults &chosen = defaults ? *defaults : fallback;
+    graph->SetDefaultOrientation(chosen);
+    graph->SetDefaultColors(chosen);
 
     const std::vector<long double> &xs = table.columns[kVariableColumn];
     std::string yTitle;

@@ -9,7 +9,7 @@
 
 #include "differentiation_run.h"
 #include "graph_data.h"
-#include "graph_settings.h"
+#include "graph_defaults.h"
 #include "parser.h"
 
 namespace quindar::calculus {
@@ -26,9 +26,9 @@ struct DifferentialsGraph {
 };
 
 // Finds or adds the graph in `graphs`, fills its data sets from the table at `precision`, and
-// sets its layout. `settings` gives new graphs their orientation and colours (null: built-in).
+// sets its layout. `defaults` gives new graphs their orientation and colours (null: built-in).
 DifferentialsGraph BuildDifferentialsGraph(Parser &parser, GraphList &graphs,
                                            const DifferentiationTable &table, int precision,
-                                           const GraphSettings *settings);
+                                           const GraphDefaults *defaults);
 
 }  // namespace quindar::calculus
