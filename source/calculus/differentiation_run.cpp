@@ -188,6 +188,9 @@ DifferentiationResult DifferentiationRun::run(const DifferentiationSettings &set
     table.clear();
     const std::string box = Trimmed(settings.function);
     if (box.empty()) return outcome;
+    // One long computation per document: a graph build or another run already holds it.
+    ComputeGatePass pass(parser.compute_gate, "differentiation");
+    if (!pass.ok()) return outcome;
     ScopedRunHooks hooks(parser, host, false);
     const std::string text = ModifyString(box, FunctionEntries(parser));
     const std::string name = CurrentVariable(settings.variable);

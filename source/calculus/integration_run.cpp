@@ -232,6 +232,9 @@ bool IntegrationRun::integrate3(long double low, long double high, long double &
 
 IntegrationResult IntegrationRun::run(const IntegrationSettings &pageSettings) {
     IntegrationResult outcome;
+    // One long computation per document: a graph build or another run already holds it.
+    ComputeGatePass pass(parser.compute_gate, "integration");
+    if (!pass.ok()) return outcome;
     ScopedRunHooks hooks(parser, host, true);
     settings = &pageSettings;
     const int type = std::clamp(pageSettings.type, 1, 3);

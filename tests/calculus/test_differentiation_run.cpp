@@ -100,6 +100,19 @@ TEST(DifferentiationTitles, ColumnsFollowTheVariableAndTheBoxes) {
     EXPECT_EQ(CurrentVariable(" t "), "t");
 }
 
+// While the document's gate is held (a graph build), a table is not started.
+TEST_F(DifferentiationRunTest, ATableWaitsForTheDocumentsGate) {
+    {
+        ComputeGatePass build(parser.compute_gate, "graph");
+        ASSERT_TRUE(build.ok());
+        Run("x^2", "0", "1", "2");
+        EXPECT_EQ(table.rows(), 0u);
+    }
+    Run("x^2", "0", "1", "2");
+    EXPECT_EQ(table.rows(), 2u);
+    EXPECT_FALSE(parser.compute_gate.is_busy());
+}
+
 TEST_F(DifferentiationRunTest, AllFourColumnsOfACubic) {
     const DifferentiationResult result = Run("x^3", "0", "2", "3");
     ASSERT_TRUE(result.solved);

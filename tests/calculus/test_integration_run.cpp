@@ -119,6 +119,25 @@ TEST_F(IntegrationRunTest, AnEmptyFunctionBoxIntegratesOne) {
     ExpectEngineAsBefore();
 }
 
+// A graph build (or another run) holding the document's gate keeps the run from starting;
+// once the gate is free the same run computes.
+TEST_F(IntegrationRunTest, ARunWaitsForTheDocumentsGate) {
+    IntegrationSettings settings;
+    settings.high[0] = "2";
+    {
+        ComputeGatePass build(parser.compute_gate, "graph");
+        ASSERT_TRUE(build.ok());
+        const IntegrationResult refused = Run(settings);
+        EXPECT_FALSE(refused.solved);
+        EXPECT_TRUE(host.sounds.empty());
+        EXPECT_EQ(parser.find_variable("x"), -1);
+    }
+    const IntegrationResult result = Run(settings);
+    ASSERT_TRUE(result.solved);
+    EXPECT_EQ(result.value, 2.0L);
+    EXPECT_FALSE(parser.compute_gate.is_busy());
+}
+
 TEST_F(IntegrationRunTest, DoubleIntegralsAreMidpointSumsOfRombergIntegrals) {
     for (int slider : {0, 20, 100}) {
         SCOPED_TRACE(slider);
