@@ -93,12 +93,12 @@ std::string FindCircularFunction(Parser &parser, const std::string &text, int de
     for (const char *name : kCircularFunctions)
         if (parser.find_token(upper.c_str(), name)) return name;
     if (depth > 16) return {};
-    char token[kExpressionSize];
+    std::string token;
     char type = 0;
     for (const char *rest = parser.get_token(text.c_str(), token, type); rest != nullptr;
          rest = parser.get_token(rest, token, type)) {
-        if (type != kName || !parser.is_function(token)) continue;
-        const char *body = parser.get_func_value(token);
+        if (type != kName || !parser.is_function(token.c_str())) continue;
+        const char *body = parser.get_func_value(token.c_str());
         if (body == nullptr || std::string(body).find(token) != std::string::npos) continue;
         std::string found = FindCircularFunction(parser, body, depth + 1);
         if (!found.empty()) return found;

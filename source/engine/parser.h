@@ -78,8 +78,8 @@ public:
     void set_message_hook(MessageHook hook);
 
     // One-shot token reading for callers outside evaluation. Returns the position behind
-    // the token, or null at the end or on an error.
-    const char *get_token(const char *text, char *tokenOut, char &typeOut);
+    // the token, or null at the end or on an error. A token may be as long as its text.
+    const char *get_token(const char *text, std::string &tokenOut, char &typeOut);
     // True when text holds a name token equal to name (case sensitive).
     bool find_token(const char *text, const char *name, char unused = 0);
 

@@ -59,8 +59,9 @@ const char *Parser::eval_exp(const char *text, complex &result, bool silentMode,
     init_number_stream(answer, *answer_format);
     ++recovery_points;
     try {
-        if (text == nullptr || std::strlen(text) >= kExpressionSize) parser_exception(0);
-        std::strcpy(expr.get(), text);
+        const std::size_t length = text != nullptr ? std::strlen(text) : kExpressionSize;
+        if (length >= kExpressionSize) parser_exception(0);
+        std::memcpy(expr.get(), text, length + 1);
         evaluate_line(result, answer);
     } catch (const EvaluationAbort &) {
         Parser::FreeMapmValues();

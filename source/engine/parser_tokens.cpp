@@ -227,16 +227,17 @@ bool Parser::is_function_declaration() {
     return true;
 }
 
-const char *Parser::get_token(const char *text, char *tokenOut, char &typeOut) {
-    if (text == nullptr || tokenOut == nullptr) return nullptr;
+const char *Parser::get_token(const char *text, std::string &tokenOut, char &typeOut) {
+    if (text == nullptr) return nullptr;
     error = false;
     SetSolvingMap(true);
-    auto copy = std::make_unique<char[]>(std::strlen(text) + 1);
-    std::strcpy(copy.get(), text);
+    const std::size_t length = std::strlen(text) + 1;
+    auto copy = std::make_unique<char[]>(length);
+    std::memcpy(copy.get(), text, length);
     prog = copy.get();
     const char *result = nullptr;
     if (get_token() != nullptr && !error) {
-        std::strcpy(tokenOut, token.c_str());
+        tokenOut = token;
         typeOut = token_type;
         result = text + (prog - copy.get());
     }
@@ -249,8 +250,9 @@ bool Parser::find_token(const char *text, const char *name, char) {
     if (text == nullptr || name == nullptr) return false;
     error = false;
     SetSolvingMap(true);
-    auto copy = std::make_unique<char[]>(std::strlen(text) + 1);
-    std::strcpy(copy.get(), text);
+    const std::size_t length = std::strlen(text) + 1;
+    auto copy = std::make_unique<char[]>(length);
+    std::memcpy(copy.get(), text, length);
     prog = copy.get();
     bool found = false;
     while (!found && get_token() != nullptr && !error && !at_end())
