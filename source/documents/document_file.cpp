@@ -143,9 +143,8 @@ bool DocumentFile::Read(const char *path) {
     return true;
 }
 
-std::string DocumentFile::GetString(const char *section, const char *key, const char *deflt,
-                                    std::size_t size) const {
-    return snapshot->String(section, key, deflt, size);
+std::string DocumentFile::GetString(const char *section, const char *key, const char *deflt) const {
+    return snapshot->Whole(section, key, deflt);
 }
 
 int DocumentFile::GetInt(const char *section, const char *key, int deflt) const {

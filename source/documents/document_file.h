@@ -81,8 +81,8 @@ private:
     bool Progress(std::string_view text, int percent) const;
     bool Put(const char *section, const char *key, const std::string &value);
     bool PutInt(const char *section, const char *key, long value);
-    std::string GetString(const char *section, const char *key, const char *deflt,
-                          std::size_t size) const;
+    // A key's whole value: a document keeps what it holds, whatever its length.
+    std::string GetString(const char *section, const char *key, const char *deflt) const;
     int GetInt(const char *section, const char *key, int deflt) const;
     template <class Record>
     bool WriteFields(const Record &record, std::span<const DocumentFieldKey<Record>> keys,

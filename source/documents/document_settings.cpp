@@ -12,10 +12,6 @@ namespace quindar {
 
 namespace {
 
-// Text keys are read into this many bytes; the face name into a font record's 32.
-constexpr std::size_t kTextKeySize = 1024;
-constexpr std::size_t kFaceNameSize = 32;
-constexpr std::size_t kZeroPrecisionSize = 14;
 // A missing zero threshold reads as this text, which a 32-bit float holds as 0.
 constexpr const char *kMissingZeroPrecision = "1.0e-307";
 
@@ -28,7 +24,6 @@ struct DocumentFieldKey {
     int Record::*number = nullptr;
     std::uint8_t Record::*byte = nullptr;
     std::string Record::*text = nullptr;
-    std::size_t textSize = kTextKeySize;
     bool skipEmptyText = true;
 };
 
@@ -59,7 +54,7 @@ const SetupKey kSetupKeys[] = {
 
 using FontKey = DocumentFieldKey<DocumentFont>;
 const FontKey kFontKeys[] = {
-    {"FaceName", nullptr, nullptr, &DocumentFont::FaceName, kFaceNameSize, false},
+    {"FaceName", nullptr, nullptr, &DocumentFont::FaceName, false},
     {"Height", &DocumentFont::Height},
     {"Width", &DocumentFont::Width},
     {"Escapement", &DocumentFont::Escapement},
@@ -145,8 +140,7 @@ void DocumentFile::ReadFields(Record &record, std::span<const DocumentFieldKey<R
             record.*row.byte =
                 static_cast<std::uint8_t>(GetInt(section, row.key, defaults.*row.byte));
         else
-            record.*row.text =
-                GetString(section, row.key, (defaults.*row.text).c_str(), row.textSize);
+            record.*row.text = GetString(section, row.key, (defaults.*row.text).c_str());
     }
 }
 
@@ -185,9 +179,8 @@ bool DocumentFile::ReadSettings() {
         PrecformType &format = row.answer ? *parser.answer_format : *parser.variable_format;
         switch (row.field) {
             case FormatField::ZeroPrecision:
-                format.zero_precision = static_cast<float>(std::atof(
-                    GetString(kSetupSection, row.key, kMissingZeroPrecision, kZeroPrecisionSize)
-                        .c_str()));
+                format.zero_precision = static_cast<float>(
+                    std::atof(GetString(kSetupSection, row.key, kMissingZeroPrecision).c_str()));
                 break;
             case FormatField::Precision:
                 format.precision = GetInt(kSetupSection, row.key, 14);

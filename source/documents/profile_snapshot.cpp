@@ -33,6 +33,12 @@ std::string ProfileSnapshot::String(const char *section, const char *key, const 
     return std::string(buffer.data(), n);
 }
 
+std::string ProfileSnapshot::Whole(const char *section, const char *key, const char *deflt) const {
+    const auto value = Value(section, key);
+    const std::size_t length = value ? value->size() : std::string_view(deflt ? deflt : "").size();
+    return String(section, key, deflt, length + 1);
+}
+
 int ProfileSnapshot::Int(const char *section, const char *key, int deflt) const {
     const auto value = Value(section, key);
     return value ? profile_int(*value, deflt) : deflt;
@@ -46,6 +52,13 @@ bool ProfileSnapshot::Color(const char *section, const char *key, TColor deflt,
 bool ProfileSnapshot::Point(const char *section, const char *key, char *x, char *y, char *z,
                             int size) const {
     return point_from_text(String(section, key, "", kPointBuffer), x, y, z, size);
+}
+
+std::array<std::string, 3> ProfileSnapshot::PointFields(const char *section,
+                                                        const char *key) const {
+    std::array<std::string, 3> fields;
+    point_fields(Whole(section, key, ""), fields);
+    return fields;
 }
 
 std::vector<std::string> ProfileSnapshot::Keys(std::string_view section) const {

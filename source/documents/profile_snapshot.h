@@ -2,6 +2,7 @@
 // The profile look-ups over one reading of a file, for readers that ask for many keys.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -24,11 +25,15 @@ public:
     // As GetPrivateProfileString into a buffer of size bytes.
     std::string String(const char *section, const char *key, const char *deflt,
                        std::size_t size) const;
+    // The same with a buffer that holds the whole value, however long.
+    std::string Whole(const char *section, const char *key, const char *deflt) const;
     // As GetPrivateProfileInt.
     int Int(const char *section, const char *key, int deflt) const;
     // As IniFile::GetColor and IniFile::GetPoint.
     bool Color(const char *section, const char *key, TColor deflt, TColor &value) const;
     bool Point(const char *section, const char *key, char *x, char *y, char *z, int size) const;
+    // The three fields of a point, whole.
+    std::array<std::string, 3> PointFields(const char *section, const char *key) const;
     // The section's keys in file order; and as the profile call lists them into size bytes.
     std::vector<std::string> Keys(std::string_view section) const;
     std::vector<std::string> KeyList(std::string_view section, std::size_t size) const;
