@@ -11,6 +11,7 @@
 #include <ostream>
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include "complex.h"
 #include "computation_hooks.h"
@@ -255,6 +256,12 @@ public:
     void get_comline_data(std::ostream &answer, DynArray<long double, 10> &list, int fn);
     bool get_file_data(DynArray<long double, 10> &list, const char *name, int fn);
     bool get_file_data(DynArray<std::string, 10> &list, const char *name, int fn);
+    // The data files whose entries engines made for them are evaluating, outermost first, and
+    // what all nested reads of one outer file may still cost. A file entry may name another
+    // data file, so without these a file that reads itself would recurse until the stack ends.
+    std::vector<std::string> data_file_chain;
+    std::shared_ptr<long> nested_data_budget;
+    bool may_read_data_file(const std::string &identity, const char *name);
 
     void check_no_right_bracket(int number, int fn);
     void check_right_bracket(int number, int fn);

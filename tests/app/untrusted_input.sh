@@ -47,6 +47,21 @@ long-token-derivative)
     run --derivative 'f[x]' x 0 long.qnd
     [ "$code" = 1 ] || [ "$code" = 0 ] || fail "status $code"
     ;;
+data-file-not-regular)
+    for path in / /dev/zero /dev/null "$work"; do
+        printf 'MEAN[{%s}]\n' "$path" >in.txt
+        run in.txt
+        expect_code 1
+        expect_err "1: Data File ' $path ' Could Not Be Located!"
+    done
+    ;;
+data-file-reads-itself)
+    printf 'MEAN[{%s/self.txt}] 1\n' "$work" >self.txt
+    printf 'MEAN[{%s/self.txt}]\n' "$work" >in.txt
+    run in.txt
+    expect_code 1
+    expect_err "Data File ' $work/self.txt ' Is Read By One Of Its Own Entries!"
+    ;;
 *)
     fail "unknown case $case_name"
     ;;
