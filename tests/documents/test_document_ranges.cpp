@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Quindar developers
+// The numbers of a document are held in the ranges their settings allow, so a hostile
+// document cannot make the printing ask for billions of digits or print every answer as 0.
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "document_work.h"
+#include "documents_test_support.h"
+
+namespace quindar::testing {
+namespace {
+
+struct RangeCase {
+    const char *section;
+    const char *line;
+    const char *answer;  // what "1/3" prints afterwards; empty when not checked
+};
+
+TEST(DocumentRanges, SetupNumbersAreHeldInRange) {
+    const RangeCase table[] = {
+        {"SETUP", "AnsPrecision=2147483647", " = 0.33333333333333"},
+        {"SETUP", "AnsPrecision=99999999999999999999", " = 0.33333333333333"},
+        {"SETUP", "AnsPrecision=-2147483648", " = 0.3"},
+        {"SETUP", "AnsPrecision=0", " = 0.3"},
+        {"SETUP", "AnsPrecision=5", " = 0.33333"},
+        {"SETUP", "AnsZeroPrecision=1e+999999", " = 0.33333333333333"},
+        {"SETUP", "AnsZeroPrecision=0.5", " = 0.33333333333333"},
+        {"SETUP", "AnsZeroPrecision=nan", " = 0.33333333333333"},
+        {"SETUP", "AnsZeroPrecision=-1", " = 0.33333333333333"},
+        {"SETUP", "AnsFormat=2147483647", " = 3.3333333333333e-01"},
+        {"SETUP", "AnsFormat=-4", " = 0.33333333333333"},
+    };
+    for (const RangeCase &c : table) {
+        TempFolder folder;
+        const std::string path = folder.file("r.qnd");
+        write_content(path, std::string("x\r\n[") + c.section + "]\r\n" + c.line + "\r\n");
+        Work work;
+        ASSERT_TRUE(work.load(path)) << c.line;
+        EXPECT_STREQ(work.parser.eval_exp("1/3", false, true), c.answer) << c.line;
+    }
+}
+
+TEST(DocumentRanges, EveryFieldStaysInItsRange) {
+    TempFolder folder;
+    const std::string path = folder.file("r.qnd");
+    write_content(path,
+                  "x\r\n[SETUP]\r\nAnsZeroPrecision=7\r\nVarZeroPrecision=1e-5\r\n"
+                  "VarPrecision=100\r\nVarFormat=9\r\nAngleType=-1\r\n"
+                  "[FONT]\r\nHeight=-2147483647\r\nWidth=99999\r\nWeight=5000\r\n"
+                  "Escapement=100000\r\n"
+                  "[INTEGRATION PARAMETERS]\r\nIntType=0\r\nIntPrecision=40\r\nIntAccuracy=1000\r\n"
+                  "[DIFFERENTIATION PARAMETERS]\r\nDiffPrecision=-1\r\nDiffDispFunc=5\r\n");
+    Work work;
+    ASSERT_TRUE(work.load(path));
+    EXPECT_FLOAT_EQ(work.parser.answer_format->zero_precision, 0.1f);
+    EXPECT_FLOAT_EQ(work.parser.variable_format->zero_precision, 1e-5f);
+    EXPECT_EQ(work.parser.variable_format->precision, 14);
+    EXPECT_EQ(work.parser.variable_format->format, 1);
+    EXPECT_EQ(work.parser.angle_mode, 0);
+    EXPECT_EQ(work.content.font.Height, -1638);
+    EXPECT_EQ(work.content.font.Width, 1638);
+    EXPECT_EQ(work.content.font.Weight, 1000);
+    EXPECT_EQ(work.content.font.Escapement, 3600);
+    EXPECT_EQ(work.content.integration.IntType, 1);
+    EXPECT_EQ(work.content.integration.IntPrecision, 14);
+    EXPECT_EQ(work.content.integration.IntAccuracy, 100);
+    EXPECT_EQ(work.content.differentiation.DiffPrecision, 1);
+    EXPECT_EQ(work.content.differentiation.DiffDispFunc, 1);
+}
+
+}  // namespace
+}  // namespace quindar::testing
