@@ -2,7 +2,9 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 // quindar-cli: a text through the Math Editor without windows. Every line is computed as the
 // editor computes it on a key press, and the text comes back with the answers written in.
+#include <csignal>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -10,6 +12,7 @@
 #include "cli_document.h"
 #include "cli_files.h"
 #include "cli_options.h"
+#include "file_io.h"
 #include "memory_text_buffer.h"
 #include "parser.h"
 #include "program_folders.h"
@@ -84,6 +87,8 @@ int Compute(const cli::Options &options, Parser &parser) {
 }  // namespace
 
 int main(int argc, char **argv) {
+    // Past a file-size limit a write fails with its reason instead of ending the program.
+    std::signal(SIGXFSZ, SIG_IGN);
     std::string error;
     const auto options = cli::ParseOptions(std::vector<std::string>(argv + 1, argv + argc), error);
     if (!options) return Fail(error + "\n" + cli::kUsage + "Try \"quindar-cli --help\".");
@@ -99,23 +104,35 @@ int main(int argc, char **argv) {
     Warn(OpenLibraries(parser, libraries));
     if (options->calculus) return Compute(*options, parser);
 
+    // A file computed in place is locked before it is read, so a second run on it waits for
+    // this one's result; and a folder or device is refused before anything is computed.
+    std::optional<FileLock> lock;
+    if (options->inPlace) {
+        lock = FileLock::Acquire(options->path, error);
+        if (!lock) return Fail("cannot write \"" + options->path + "\": " + error);
+    }
     Work work;
     if (!LoadWork(options->path, parser, work, error)) return Fail(error);
     if (options->radians) parser.angle_mode = 1;
     const TextRun run = RunText(work.text, options->key, parser);
     // A document holds its text with CR LF line ends, whatever the input had.
     work.document.text = ToCrLf(run.text);
+    std::vector<std::string> warnings;
     if (options->inPlace && work.isDocument) {
-        if (!cli::SaveDocument(options->path, parser, work.document, error)) return Fail(error);
+        if (!cli::SaveDocument(options->path, parser, work.document, error, warnings, &*lock))
+            return Fail(error);
     } else if (options->inPlace) {
-        if (!cli::ReplaceFile(options->path, run.text, error)) return Fail(error);
+        std::string warning;
+        if (!cli::ReplaceFile(options->path, run.text, error, warning, &*lock)) return Fail(error);
+        if (!warning.empty()) warnings.push_back(warning);
     } else {
         std::cout << run.text << std::flush;
         if (!std::cout) return Fail("cannot write standard output");
     }
     if (!options->savePath.empty() &&
-        !cli::SaveDocument(options->savePath, parser, work.document, error))
+        !cli::SaveDocument(options->savePath, parser, work.document, error, warnings))
         return Fail(error);
+    Warn(warnings);
     ReportFailures(run);
     return run.failures.empty() && work.loadMessages.empty() ? 0 : 1;
 }

@@ -86,12 +86,21 @@ bool DocumentFile::Write(const char *path) {
     }
     ProfileBuilder file(content.text);
     builder = &file;
-    const bool written = WriteVariables() && WriteFunctions() && WriteSettings() && WriteFont() &&
-                         WriteCalculusParameters() && WriteGraphs() &&
-                         replace_file_content(target, file.Content());
+    const bool built = WriteVariables() && WriteFunctions() && WriteSettings() && WriteFont() &&
+                       WriteCalculusParameters() && WriteGraphs();
     builder = nullptr;
-    if (!written) Warn(document_message(kMsgFileWasNotSaved), kCaptionSaveFile);
-    return written;
+    const ReplaceOutcome outcome =
+        built ? replace_file(target, file.Content(), heldLock) : ReplaceOutcome{};
+    if (!outcome.written) {
+        // The system's reason, when there is one, follows the message: the user must know
+        // whether the folder is missing, the disk full or the file too large.
+        std::string text = document_message(kMsgFileWasNotSaved);
+        if (!outcome.reason.empty()) text += " (" + target + ": " + outcome.reason + ")";
+        Warn(text, kCaptionSaveFile);
+    } else if (!outcome.warning.empty()) {
+        Warn(target + ": " + outcome.warning, kCaptionSaveFile);
+    }
+    return outcome.written;
 }
 
 bool DocumentFile::Put(const char *section, const char *key, const std::string &value) {

@@ -62,6 +62,124 @@ data-file-reads-itself)
     expect_code 1
     expect_err "Data File ' $work/self.txt ' Is Read By One Of Its Own Entries!"
     ;;
+in-place-not-regular)
+    mkfifo pipe.txt
+    run --in-place pipe.txt
+    expect_code 2
+    expect_err 'cannot write "pipe.txt": it is not a regular file'
+    [ -p pipe.txt ] || fail "the pipe was replaced"
+    if [ "$(id -u)" = 0 ] && mknod null.txt c 1 3 2>/dev/null; then
+        run --in-place null.txt
+        expect_code 2
+        expect_err "it is not a regular file"
+        [ -c null.txt ] || fail "the device was replaced"
+    fi
+    mkdir folder.qnd
+    run --in-place folder.qnd
+    expect_code 2
+    expect_err "it is a folder"
+    ;;
+in-place-through-link)
+    printf '1+1\n' >real.txt
+    ln -s real.txt link.txt
+    run --in-place link.txt
+    expect_code 0
+    [ -L link.txt ] || fail "the link was replaced"
+    [ "$(cat real.txt)" = "1+1 = 2" ] || fail "the linked file was not updated"
+    printf 'y = 3\r\n[SETUP]\r\nAnsPrecision=14\r\n' >real.qnd
+    mkdir sub
+    ln -s ../real.qnd sub/link.qnd
+    run --in-place sub/link.qnd
+    expect_code 0
+    [ -L sub/link.qnd ] || fail "the document link was replaced"
+    grep -q '^y = 3' real.qnd || fail "the linked document was not updated"
+    grep -q '^\[DECLARED VARIABLES\]' real.qnd || fail "the linked document was not saved"
+    ;;
+in-place-read-only)
+    printf '1+1\n' >ro.txt
+    chmod 444 ro.txt
+    run --in-place ro.txt
+    expect_code 2
+    expect_err 'cannot write "ro.txt": it is read-only; the file is unchanged'
+    [ "$(cat ro.txt)" = "1+1" ] || fail "a read-only file was overwritten"
+    printf 'y = 3\r\n' >ro.qnd
+    chmod 444 ro.qnd
+    run --in-place ro.qnd
+    expect_code 2
+    expect_err "is read only and can not be saved"
+    [ "$(cat ro.qnd)" = "$(printf 'y = 3\r')" ] || fail "a read-only document was overwritten"
+    ;;
+in-place-keeps-owner-and-mode)
+    printf '1+1\n' >kept.txt
+    chmod 640 kept.txt
+    [ "$(id -u)" = 0 ] && chown 65534:65534 kept.txt
+    before=$(stat -c '%u:%g %a' kept.txt)
+    run --in-place kept.txt
+    expect_code 0
+    [ "$(stat -c '%u:%g %a' kept.txt)" = "$before" ] || fail "owner, group or mode changed"
+    # A file of another owner that this user may write: its owner cannot be kept, and the
+    # run says so.
+    if [ "$(id -u)" = 0 ] && command -v setpriv >/dev/null; then
+        chmod 777 .
+        printf '2+2\n' >theirs.txt
+        chmod 666 theirs.txt
+        timeout 60 setpriv --reuid=65534 --regid=65534 --clear-groups "$cli" --in-place theirs.txt \
+            >stdout 2>stderr
+        code=$?
+        expect_code 0
+        expect_err '"theirs.txt": the owner and group of the file could not be kept'
+        [ "$(cat theirs.txt)" = "2+2 = 4" ] || fail "the file was not written"
+    fi
+    ;;
+stale-temporaries)
+    printf '1+1\n' >notes.txt
+    # A process number that no process has, and one that is alive: this shell's.
+    dead=999999
+    while kill -0 "$dead" 2>/dev/null; do dead=$((dead + 1)); done
+    : >".notes.txt.quindar-save-$dead-0badf00d.tmp"
+    : >".notes.txt.quindar-save-$$-0badf00d.tmp"
+    : >".other.txt.quindar-save-$dead-0badf00d.tmp"
+    : >"notes.txt.Ab12Cd"
+    run --in-place notes.txt
+    expect_code 0
+    [ ! -e ".notes.txt.quindar-save-$dead-0badf00d.tmp" ] || fail "a stale temporary file stayed"
+    [ -e ".notes.txt.quindar-save-$$-0badf00d.tmp" ] || fail "a live process's file was removed"
+    [ -e ".other.txt.quindar-save-$dead-0badf00d.tmp" ] || fail "another file's temporary was removed"
+    [ -e "notes.txt.Ab12Cd" ] || fail "a file that is not ours was removed"
+    ;;
+save-failure-reasons)
+    printf '1+1\n' >in.txt
+    mkdir folder.qnd
+    run --save folder.qnd in.txt
+    expect_code 2
+    expect_err 'cannot save "folder.qnd": Save File: File was not saved! (folder.qnd: it is a folder)'
+    run --save missing/x.qnd in.txt
+    expect_code 2
+    expect_err "File was not saved! (missing/x.qnd: No such file or directory)"
+    printf '1+1\n%.0s' $(seq 2000) >big.txt
+    (ulimit -f 1 && timeout 60 "$cli" --save big.qnd big.txt >/dev/null 2>stderr)
+    code=$?
+    expect_code 2
+    expect_err "File was not saved! (big.qnd: File too large)"
+    [ ! -e big.qnd ] || fail "a cut document was left"
+    ls -a | grep -q 'quindar-save' && fail "a temporary file was left"
+    ;;
+in-place-waits-for-lock)
+    printf '1+1\n' >shared.txt
+    flock shared.txt sleep 3 &
+    holder=$!
+    sleep 1
+    timeout 60 "$cli" --in-place shared.txt >stdout 2>stderr &
+    runner=$!
+    sleep 1
+    kill -0 "$holder" 2>/dev/null || fail "the lock holder ended too early to tell"
+    [ "$(cat shared.txt)" = "1+1" ] || fail "the file was written while another run held it"
+    wait "$runner"
+    code=$?
+    expect_code 0
+    wait "$holder"
+    [ "$(cat shared.txt)" = "1+1 = 2" ] || fail "the waiting run did not write its result"
+    ;;
 *)
     fail "unknown case $case_name"
     ;;
