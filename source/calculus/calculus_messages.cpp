@@ -54,6 +54,7 @@ constexpr MessageRecord kMessages[] = {
      "wait until the other process has completed."},
     {kNoSignChange, "%s does not change sign between %s and %s, so no root can be bracketed."},
     {kRootVariable, "%s is not a function of %s, so no root can be searched in it."},
+    {kNotFinite, "The result of %s is not a finite number (%s)."},
 };
 
 }  // namespace
