@@ -14,6 +14,7 @@
 #include "cli_options.h"
 #include "file_io.h"
 #include "memory_text_buffer.h"
+#include "message_text.h"
 #include "parser.h"
 #include "program_folders.h"
 #include "text_run.h"
@@ -23,19 +24,26 @@ namespace {
 
 using namespace quindar;
 
+// Every message is one line on standard error, "WHERE: message", and holds no control bytes
+// from a name or a path, whatever the engine's box would show.
+std::string OneLine(const std::string &message) {
+    return printable_message(message, true);
+}
+
 int Fail(const std::string &message) {
-    std::cerr << "quindar-cli: " << message << '\n';
+    std::cerr << "quindar-cli: " << OneLine(message) << '\n';
     return 2;
 }
 
 void Warn(const std::vector<std::string> &warnings) {
-    for (const std::string &warning : warnings) std::cerr << "quindar-cli: " << warning << '\n';
+    for (const std::string &warning : warnings)
+        std::cerr << "quindar-cli: " << OneLine(warning) << '\n';
 }
 
 void ReportFailures(const TextRun &run) {
     Warn(run.warnings);
     for (const LineFailure &failure : run.failures)
-        std::cerr << failure.line << ": " << failure.message << '\n';
+        std::cerr << failure.line << ": " << OneLine(failure.message) << '\n';
 }
 
 // The input of a run: a document, whose declarations are then in the engine, or a text.
@@ -52,7 +60,7 @@ bool LoadWork(const std::string &path, Parser &parser, Work &work, std::string &
         const bool loaded =
             cli::LoadDocument(path, parser, work.document, work.loadMessages, error);
         for (const std::string &message : work.loadMessages)
-            std::cerr << path << ": " << message << '\n';
+            std::cerr << OneLine(path) << ": " << OneLine(message) << '\n';
         work.text = work.document.text;
         return loaded;
     }
@@ -75,7 +83,7 @@ int Compute(const cli::Options &options, Parser &parser) {
         case 0:
             break;
         case 1:
-            std::cerr << error << '\n';
+            std::cerr << OneLine(error) << '\n';
             return 1;
         default:
             return Fail(error);

@@ -233,6 +233,8 @@ public:
     void parser_exception(int number);
     void special_exception(const char *format, const char *argument);
     void special_exception(const char *format, char argument);
+    // The same for the character that starts at `at`, a whole UTF-8 character when it is one.
+    void character_exception(const char *format, const char *at);
     void special_exception();
     // A function library error: message `number` with the name of function `functionIndex`
     // (-1 for none) and, for the messages that take one, `text` before it.

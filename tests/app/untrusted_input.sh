@@ -180,6 +180,19 @@ in-place-waits-for-lock)
     wait "$holder"
     [ "$(cat shared.txt)" = "1+1 = 2" ] || fail "the waiting run did not write its result"
     ;;
+messages-one-line)
+    printf 'ASIN[1+i]\nx\x07y\n2+\xc3\n' >in.txt
+    run in.txt
+    expect_code 1
+    [ "$(wc -l <stderr)" = 3 ] || fail "a message spans lines"
+    expect_err "1: You can not calculate the ASIN of a complex number in 'DEGREES' mode. You must change"
+    expect_err "2: ' xU+0007y ' Could Not Be Identified"
+    expect_err "3: ' U+00C3 ' is not a legitimate"
+    run "$(printf 'no\033such.txt')"
+    expect_code 2
+    expect_err 'cannot open "noU+001Bsuch.txt"'
+    LC_ALL=C grep -q "$(printf '\033')" stderr && fail "a control byte reached standard error"
+    ;;
 *)
     fail "unknown case $case_name"
     ;;
