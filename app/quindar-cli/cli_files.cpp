@@ -43,6 +43,13 @@ std::optional<std::string> ReadInput(const std::string &path, std::string &error
         error = "cannot read " + Quoted(path) + ": it is a folder";
         return std::nullopt;
     }
+    // A device such as /dev/zero never ends; a pipe does, when its writer is done.
+    const auto type = std::filesystem::status(path, code).type();
+    if (type == std::filesystem::file_type::character ||
+        type == std::filesystem::file_type::block) {
+        error = "cannot read " + Quoted(path) + ": it is a device";
+        return std::nullopt;
+    }
     std::ifstream file(path, std::ios::binary);
     if (!file) {
         error = "cannot open " + Quoted(path) + ": " + Reason();

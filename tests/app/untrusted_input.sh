@@ -78,6 +78,9 @@ in-place-not-regular)
     run --in-place folder.qnd
     expect_code 2
     expect_err "it is a folder"
+    run /dev/zero
+    expect_code 2
+    expect_err 'cannot read "/dev/zero": it is a device'
     ;;
 in-place-through-link)
     printf '1+1\n' >real.txt
