@@ -16,6 +16,8 @@ namespace quindar {
 
 namespace {
 
+constexpr int kHighest3DType = 9999999;
+
 struct AxisText {
     std::string name, low, high, points;
 };
@@ -96,7 +98,7 @@ bool DocumentFile::ReadAxisVariables(GraphData &graph, const std::string &sectio
             failed = true;
             continue;
         }
-        const Variable axis(parts->name.c_str(), low, high, static_cast<long>(points.real));
+        const Variable axis(parts->name.c_str(), low, high, points_from_value(points.real));
         if (xAxis)
             graph.SetXAxisVar(&axis);
         else
@@ -164,7 +166,12 @@ void DocumentFile::ReadGraphAttributes(GraphData &graph, const std::string &sect
     }
     const int type = GetInt(name, "Type", 1);
     if (type != 0 && (kind == kGraph2D || kind == kGraph3D)) {
-        (kind == kGraph2D ? graph.GraphType2D : graph.GraphType3D) = type;
+        // A 3-D type is seven decimal digits of flags; anything else from a file would leave
+        // the digit arithmetic on it undefined.
+        if (kind == kGraph2D)
+            graph.GraphType2D = type;
+        else
+            graph.GraphType3D = std::clamp(type, 0, kHighest3DType);
         for (const GraphNumberKey &row : kind == kGraph2D ? graph_keys_2d() : graph_keys_3d()) {
             if (row.number != nullptr) {
                 graph.*row.number = GetInt(name, row.key, static_cast<int>(row.deflt));

@@ -99,18 +99,17 @@ in-place-through-link)
     grep -q '^\[DECLARED VARIABLES\]' real.qnd || fail "the linked document was not saved"
     ;;
 in-place-read-only)
-    printf '1+1\n' >ro.txt
-    chmod 444 ro.txt
-    run --in-place ro.txt
-    expect_code 2
-    expect_err 'cannot write "ro.txt": it is read-only; the file is unchanged'
-    [ "$(cat ro.txt)" = "1+1" ] || fail "a read-only file was overwritten"
-    printf 'y = 3\r\n' >ro.qnd
-    chmod 444 ro.qnd
-    run --in-place ro.qnd
-    expect_code 2
-    expect_err "is read only and can not be saved"
-    [ "$(cat ro.qnd)" = "$(printf 'y = 3\r')" ] || fail "a read-only document was overwritten"
+    # FILE CONTENT MESSAGE: the run is refused with MESSAGE and FILE keeps CONTENT.
+    refused() {
+        printf '%s' "$2" >"$1"
+        chmod 444 "$1"
+        run --in-place "$1"
+        expect_code 2
+        expect_err "$3"
+        [ "$(cat "$1")" = "$2" ] || fail "read-only $1 was overwritten"
+    }
+    refused ro.txt '1+1' 'cannot write "ro.txt": it is read-only; the file is unchanged'
+    refused ro.qnd 'y = 3' "is read only and can not be saved"
     ;;
 in-place-keeps-owner-and-mode)
     printf '1+1\n' >kept.txt

@@ -4,6 +4,7 @@
 // document cannot make the printing ask for billions of digits or print every answer as 0.
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <string>
 
 #include "document_work.h"
@@ -68,6 +69,24 @@ TEST(DocumentRanges, EveryFieldStaysInItsRange) {
     EXPECT_EQ(work.content.integration.IntAccuracy, 100);
     EXPECT_EQ(work.content.differentiation.DiffPrecision, 1);
     EXPECT_EQ(work.content.differentiation.DiffDispFunc, 1);
+}
+
+// A graph's numbers: a 3-D type is seven digits of flags, a point count stays within long.
+TEST(DocumentRanges, GraphNumbersAreHeldInRange) {
+    TempFolder folder;
+    const std::string path = folder.file("g.qnd");
+    write_content(path,
+                  "x\r\n[SETUP]\r\nAnsPrecision=14\r\n[GRAPHS]\r\nGraph1=g\r\n[Graph1]\r\n"
+                  "Function1=f[x,y]=x*y\r\nXAxisVariable=x(0,1,10^300)\r\n"
+                  "ZAxisVariable=y(0,1,5)\r\nType=-2147483648\r\n");
+    Work work;
+    ASSERT_TRUE(work.load(path));
+    ASSERT_EQ(work.content.graphs.count(), 1);
+    const GraphData &graph = *work.content.graphs.gethead();
+    EXPECT_EQ(graph.GetGraphType(), kGraph3D);
+    EXPECT_EQ(graph.GraphType3D, 0);
+    ASSERT_TRUE(graph.XAxisVar);
+    EXPECT_EQ(graph.XAxisVar->num_points, LONG_MAX);
 }
 
 }  // namespace
