@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "color.h"
@@ -19,7 +20,7 @@ namespace quindar {
 // for over a thousand keys.
 class ProfileSnapshot {
 public:
-    explicit ProfileSnapshot(std::string content) : text(std::move(content)) {}
+    explicit ProfileSnapshot(std::string content);
 
     std::optional<std::string_view> Value(std::string_view section, std::string_view key) const;
     // As GetPrivateProfileString into a buffer of size bytes.
@@ -39,7 +40,14 @@ public:
     std::vector<std::string> KeyList(std::string_view section, std::size_t size) const;
 
 private:
+    const ProfileText::Section *FindSection(std::string_view name) const;
+
     ProfileText text;
+    // Names folded to lower case: the first section of each name, and for each section the
+    // first key line of each name, so that a look-up does not scan a document of thousands of
+    // graphs or variables from its start.
+    std::unordered_map<std::string, std::size_t> sectionIndex;
+    std::vector<std::unordered_map<std::string, std::size_t>> keyIndex;
 };
 
 }  // namespace quindar
