@@ -13,6 +13,14 @@
 namespace quindar::testing {
 namespace {
 
+// Loads a document of that text, through a file of its own.
+bool load_text(Work &work, const std::string &text) {
+    TempFolder folder;
+    const std::string path = folder.file("r.qnd");
+    write_content(path, text);
+    return work.load(path);
+}
+
 struct RangeCase {
     const char *section;
     const char *line;
@@ -34,27 +42,23 @@ TEST(DocumentRanges, SetupNumbersAreHeldInRange) {
         {"SETUP", "AnsFormat=-4", " = 0.33333333333333"},
     };
     for (const RangeCase &c : table) {
-        TempFolder folder;
-        const std::string path = folder.file("r.qnd");
-        write_content(path, std::string("x\r\n[") + c.section + "]\r\n" + c.line + "\r\n");
         Work work;
-        ASSERT_TRUE(work.load(path)) << c.line;
+        ASSERT_TRUE(load_text(work, std::string("x\r\n[") + c.section + "]\r\n" + c.line + "\r\n"))
+            << c.line;
         EXPECT_STREQ(work.parser.eval_exp("1/3", false, true), c.answer) << c.line;
     }
 }
 
 TEST(DocumentRanges, EveryFieldStaysInItsRange) {
-    TempFolder folder;
-    const std::string path = folder.file("r.qnd");
-    write_content(path,
+    Work work;
+    ASSERT_TRUE(
+        load_text(work,
                   "x\r\n[SETUP]\r\nAnsZeroPrecision=7\r\nVarZeroPrecision=1e-5\r\n"
                   "VarPrecision=100\r\nVarFormat=9\r\nAngleType=-1\r\n"
                   "[FONT]\r\nHeight=-2147483647\r\nWidth=99999\r\nWeight=5000\r\n"
                   "Escapement=100000\r\n"
                   "[INTEGRATION PARAMETERS]\r\nIntType=0\r\nIntPrecision=40\r\nIntAccuracy=1000\r\n"
-                  "[DIFFERENTIATION PARAMETERS]\r\nDiffPrecision=-1\r\nDiffDispFunc=5\r\n");
-    Work work;
-    ASSERT_TRUE(work.load(path));
+                  "[DIFFERENTIATION PARAMETERS]\r\nDiffPrecision=-1\r\nDiffDispFunc=5\r\n"));
     EXPECT_FLOAT_EQ(work.parser.answer_format->zero_precision, 0.1f);
     EXPECT_FLOAT_EQ(work.parser.variable_format->zero_precision, 1e-5f);
     EXPECT_EQ(work.parser.variable_format->precision, 14);
@@ -73,14 +77,11 @@ TEST(DocumentRanges, EveryFieldStaysInItsRange) {
 
 // A graph's numbers: a 3-D type is seven digits of flags, a point count stays within long.
 TEST(DocumentRanges, GraphNumbersAreHeldInRange) {
-    TempFolder folder;
-    const std::string path = folder.file("g.qnd");
-    write_content(path,
-                  "x\r\n[SETUP]\r\nAnsPrecision=14\r\n[GRAPHS]\r\nGraph1=g\r\n[Graph1]\r\n"
-                  "Function1=f[x,y]=x*y\r\nXAxisVariable=x(0,1,10^300)\r\n"
-                  "ZAxisVariable=y(0,1,5)\r\nType=-2147483648\r\n");
     Work work;
-    ASSERT_TRUE(work.load(path));
+    ASSERT_TRUE(load_text(work,
+                          "x\r\n[SETUP]\r\nAnsPrecision=14\r\n[GRAPHS]\r\nGraph1=g\r\n[Graph1]\r\n"
+                          "Function1=f[x,y]=x*y\r\nXAxisVariable=x(0,1,10^300)\r\n"
+                          "ZAxisVariable=y(0,1,5)\r\nType=-2147483648\r\n"));
     ASSERT_EQ(work.content.graphs.count(), 1);
     const GraphData &graph = *work.content.graphs.gethead();
     EXPECT_EQ(graph.GetGraphType(), kGraph3D);
