@@ -195,6 +195,19 @@ messages-one-line)
     expect_err 'cannot open "noU+001Bsuch.txt"'
     LC_ALL=C grep -q "$(printf '\033')" stderr && fail "a control byte reached standard error"
     ;;
+in-place-keeps-every-graph)
+    # A hundred graphs with names of 32 characters: every one comes back, whole.
+    {
+        printf 'x = 2\r\n[SETUP]\r\nAnsPrecision=14\r\n[GRAPHS]\r\n'
+        for n in $(seq 100); do printf 'Graph%d=Graph number %-19d\r\n' "$n" "$n"; done
+        for n in $(seq 100); do printf '[Graph%d]\r\nFunction1=f[x]=x*%d\r\n' "$n" "$n"; done
+    } >graphs.qnd
+    run --in-place graphs.qnd
+    expect_code 0
+    [ "$(grep -c '^Graph[0-9]*=Graph number ' graphs.qnd)" = 100 ] || fail "graphs were dropped"
+    [ "$(grep -c '^Function1=f\[x\]=x\*' graphs.qnd)" = 100 ] || fail "a graph lost its function"
+    grep -q '^Graph100=Graph number 100' graphs.qnd || fail "the last graph was dropped"
+    ;;
 *)
     fail "unknown case $case_name"
     ;;
