@@ -2,11 +2,8 @@
 // DocumentFile: the order of a save and of a load, and the key access both share.
 #include "document_file.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <cctype>
-#include <filesystem>
 #include <vector>
 
 #include "document_messages.h"
@@ -32,19 +29,6 @@ constexpr int kProgressText = 85;
 std::string upper_case(std::string text) {
     for (char &c : text) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
     return text;
-}
-
-// An existing file that this process may not write, or that has no write permission at all
-// (which a privileged process could otherwise overwrite).
-bool is_read_only(const std::string &path) {
-    namespace fs = std::filesystem;
-    std::error_code error;
-    const fs::file_status status = fs::status(path, error);
-    if (error || !fs::exists(status)) return false;
-    const fs::perms writable =
-        fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
-    return ::access(path.c_str(), W_OK) != 0 ||
-           (status.permissions() & writable) == fs::perms::none;
 }
 
 // The editor's text as a text-mode read and write give it back: every line break CR LF.
@@ -80,7 +64,7 @@ bool DocumentFile::Write(const char *path) {
         Warn(document_message(kMsgFileWasNotSaved), kCaptionSaveFile);
         return false;
     }
-    if (is_read_only(target)) {
+    if (is_read_only_file(target)) {
         Warn(document_message(kMsgReadOnly, upper_case(target).c_str()), kCaptionSaveFile);
         return false;
     }

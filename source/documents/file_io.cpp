@@ -84,9 +84,7 @@ std::optional<std::string> refusal(const std::string &target, struct stat &statu
     }
     if (S_ISDIR(status.st_mode)) return std::string("it is a folder");
     if (!S_ISREG(status.st_mode)) return std::string("it is not a regular file");
-    // A file that nobody may write is read-only, for the superuser too.
-    if ((status.st_mode & 0222) == 0 || ::access(target.c_str(), W_OK) != 0)
-        return std::string("it is read-only");
+    if (is_read_only_file(target)) return std::string("it is read-only");
     return std::nullopt;
 }
 
@@ -307,6 +305,13 @@ ReplaceOutcome replace_file(const std::string &path, std::string_view content,
     sync_folder(target.parent_path());
     outcome.written = true;
     return outcome;
+}
+
+bool is_read_only_file(const std::string &path) {
+    struct stat status {};
+    if (::stat(path.c_str(), &status) != 0) return false;
+    // A file that nobody may write is read-only, for the superuser too.
+    return (status.st_mode & 0222) == 0 || ::access(path.c_str(), W_OK) != 0;
 }
 
 bool replace_file_content(const std::string &path, std::string_view content) {

@@ -57,6 +57,10 @@ struct ReplaceOutcome {
 ReplaceOutcome replace_file(const std::string &path, std::string_view content,
                             const FileLock *held = nullptr);
 
+// True for an existing file (through links) that this process may not write, or that has no
+// write permission at all, which a privileged process could otherwise overwrite.
+bool is_read_only_file(const std::string &path);
+
 // replace_file when only success matters.
 bool replace_file_content(const std::string &path, std::string_view content);
 
