@@ -56,14 +56,18 @@ bool LoadDocument(const std::string &path, Parser &parser, DocumentContent &cont
 }
 
 bool SaveDocument(const std::string &path, Parser &parser, DocumentContent &content,
-                  std::string &error) {
+                  std::string &error, std::vector<std::string> &warnings, const FileLock *lock) {
     DocumentFile file(parser, content);
-    std::string reason;
-    file.SetWarningHook([&reason](std::string_view text, std::string_view caption) {
-        if (reason.empty()) reason = boxed(caption, text);
+    file.SetHeldLock(lock);
+    std::vector<std::string> shown;
+    file.SetWarningHook([&shown](std::string_view text, std::string_view caption) {
+        shown.push_back(boxed(caption, text));
     });
-    if (file.Write(path.c_str())) return true;
-    error = "cannot save \"" + path + "\": " + reason;
+    if (file.Write(path.c_str())) {
+        warnings.insert(warnings.end(), shown.begin(), shown.end());
+        return true;
+    }
+    error = "cannot save \"" + path + "\": " + (shown.empty() ? std::string() : shown.front());
     return false;
 }
 

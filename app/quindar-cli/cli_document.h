@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "document_parts.h"
+#include "file_io.h"
 #include "parser.h"
 
 namespace quindar::cli {
@@ -22,8 +23,10 @@ bool IsDocumentPath(const std::string &path);
 bool LoadDocument(const std::string &path, Parser &parser, DocumentContent &content,
                   std::vector<std::string> &messages, std::string &error);
 
-// Saves the work as a document; false with the reason in error.
+// Saves the work as a document; false with the reason in error. Under lock, a lock the caller
+// holds on path; what the saved file could not keep of the old one goes to warnings.
 bool SaveDocument(const std::string &path, Parser &parser, DocumentContent &content,
-                  std::string &error);
+                  std::string &error, std::vector<std::string> &warnings,
+                  const FileLock *lock = nullptr);
 
 }  // namespace quindar::cli

@@ -26,18 +26,6 @@ std::string Reason() {
     return std::strerror(errno);
 }
 
-bool WriteAll(int descriptor, std::string_view content) {
-    while (!content.empty()) {
-        const ssize_t written = ::write(descriptor, content.data(), content.size());
-        if (written < 0) {
-            if (errno == EINTR) continue;
-            return false;
-        }
-        content.remove_prefix(static_cast<std::size_t>(written));
-    }
-    return true;
-}
-
 }  // namespace
 
 std::optional<std::string> ReadInput(const std::string &path, std::string &error) {
@@ -55,6 +43,13 @@ std::optional<std::string> ReadInput(const std::string &path, std::string &error
         error = "cannot read " + Quoted(path) + ": it is a folder";
         return std::nullopt;
     }
+    // A device such as /dev/zero never ends; a pipe does, when its writer is done.
+    const auto type = std::filesystem::status(path, code).type();
+    if (type == std::filesystem::file_type::character ||
+        type == std::filesystem::file_type::block) {
+        error = "cannot read " + Quoted(path) + ": it is a device";
+        return std::nullopt;
+    }
     std::ifstream file(path, std::ios::binary);
     if (!file) {
         error = "cannot open " + Quoted(path) + ": " + Reason();
@@ -68,36 +63,14 @@ std::optional<std::string> ReadInput(const std::string &path, std::string &error
     return content;
 }
 
-bool ReplaceFile(const std::string &path, std::string_view content, std::string &error) {
-    // Through a link, the file it points to is the one replaced.
-    std::error_code code;
-    const std::filesystem::path target = std::filesystem::canonical(path, code);
-    const std::string real = code ? path : target.string();
-    struct stat original {};
-    if (::stat(real.c_str(), &original) != 0) {
-        error = "cannot write " + Quoted(path) + ": " + Reason();
+bool ReplaceFile(const std::string &path, std::string_view content, std::string &error,
+                 std::string &warning, const FileLock *lock) {
+    const ReplaceOutcome outcome = replace_file(path, content, lock);
+    if (!outcome.written) {
+        error = "cannot write " + Quoted(path) + ": " + outcome.reason + "; the file is unchanged";
         return false;
     }
-    std::vector<char> name(real.begin(), real.end());
-    for (char c : std::string_view(".XXXXXX")) name.push_back(c);
-    name.push_back('\0');
-    const int descriptor = ::mkstemp(name.data());
-    if (descriptor < 0) {
-        error = "cannot create a temporary file beside " + Quoted(path) + ": " + Reason();
-        return false;
-    }
-    const std::string temporary(name.data());
-    std::string failure;
-    if (!WriteAll(descriptor, content) || ::fchmod(descriptor, original.st_mode & 07777) != 0 ||
-        ::fsync(descriptor) != 0)
-        failure = Reason();
-    if (::close(descriptor) != 0 && failure.empty()) failure = Reason();
-    if (failure.empty() && std::rename(temporary.c_str(), real.c_str()) != 0) failure = Reason();
-    if (!failure.empty()) {
-        std::remove(temporary.c_str());
-        error = "cannot write " + Quoted(path) + ": " + failure + "; the file is unchanged";
-        return false;
-    }
+    if (!outcome.warning.empty()) warning = Quoted(path) + ": " + outcome.warning;
     return true;
 }
 

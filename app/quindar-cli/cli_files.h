@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+#include "file_io.h"
+
 namespace quindar::cli {
 
 // The whole content of a file, or of standard input for "-"; nullopt with the reason in
@@ -15,7 +17,10 @@ namespace quindar::cli {
 std::optional<std::string> ReadInput(const std::string &path, std::string &error);
 
 // Writes content to a temporary file in the same folder, then renames it over path, so a
-// failed write leaves the old file as it was. The file keeps its permissions.
-bool ReplaceFile(const std::string &path, std::string_view content, std::string &error);
+// failed write leaves the old file as it was. The file keeps its permissions, and its owner
+// and group where the system allows (warning says so when not). Under lock, a lock the
+// caller holds on path.
+bool ReplaceFile(const std::string &path, std::string_view content, std::string &error,
+                 std::string &warning, const FileLock *lock = nullptr);
 
 }  // namespace quindar::cli

@@ -2,7 +2,9 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 // quindar-cli: a text through the Math Editor without windows. Every line is computed as the
 // editor computes it on a key press, and the text comes back with the answers written in.
+#include <csignal>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -12,7 +14,9 @@
 #include "cli_files.h"
 #include "cli_graph.h"
 #include "cli_options.h"
+#include "file_io.h"
 #include "memory_text_buffer.h"
+#include "message_text.h"
 #include "parser.h"
 #include "program_folders.h"
 #include "text_run.h"
@@ -22,19 +26,26 @@ namespace {
 
 using namespace quindar;
 
+// Every message is one line on standard error, "WHERE: message", and holds no control bytes
+// from a name or a path, whatever the engine's box would show.
+std::string OneLine(const std::string &message) {
+    return printable_message(message, true);
+}
+
 int Fail(const std::string &message) {
-    std::cerr << "quindar-cli: " << message << '\n';
+    std::cerr << "quindar-cli: " << OneLine(message) << '\n';
     return 2;
 }
 
 void Warn(const std::vector<std::string> &warnings) {
-    for (const std::string &warning : warnings) std::cerr << "quindar-cli: " << warning << '\n';
+    for (const std::string &warning : warnings)
+        std::cerr << "quindar-cli: " << OneLine(warning) << '\n';
 }
 
 void ReportFailures(const TextRun &run) {
     Warn(run.warnings);
     for (const LineFailure &failure : run.failures)
-        std::cerr << failure.line << ": " << failure.message << '\n';
+        std::cerr << failure.line << ": " << OneLine(failure.message) << '\n';
 }
 
 // The input of a run: a document, whose declarations are then in the engine, or a text.
@@ -51,7 +62,7 @@ bool LoadWork(const std::string &path, Parser &parser, Work &work, std::string &
         const bool loaded =
             cli::LoadDocument(path, parser, work.document, work.loadMessages, error);
         for (const std::string &message : work.loadMessages)
-            std::cerr << path << ": " << message << '\n';
+            std::cerr << OneLine(path) << ": " << OneLine(message) << '\n';
         work.text = work.document.text;
         return loaded;
     }
@@ -76,13 +87,15 @@ int Compute(const cli::Options &options, Parser &parser) {
     std::cout << value << std::flush;
     if (!std::cout) return Fail("cannot write standard output");
     if (status == 0) return 0;
-    std::cerr << error << '\n';
+    std::cerr << OneLine(error) << '\n';
     return 1;
 }
 
 }  // namespace
 
 int main(int argc, char **argv) {
+    // Past a file-size limit a write fails with its reason instead of ending the program.
+    std::signal(SIGXFSZ, SIG_IGN);
     std::string error;
     std::vector<std::string> arguments(argv + 1, argv + argc);
     cli::GraphOptions graph;
@@ -108,6 +121,13 @@ int main(int argc, char **argv) {
         return status == 2 ? Fail(error) : status;
     }
 
+    // A file computed in place is locked before it is read, so a second run on it waits for
+    // this one's result; and a folder or device is refused before anything is computed.
+    std::optional<FileLock> lock;
+    if (options->inPlace) {
+        lock = FileLock::Acquire(options->path, error);
+        if (!lock) return Fail("cannot write \"" + options->path + "\": " + error);
+    }
     Work work;
     if (!LoadWork(options->path, parser, work, error)) return Fail(error);
     if (options->radians) parser.angle_mode = 1;
@@ -115,17 +135,22 @@ int main(int argc, char **argv) {
     const TextRun run = RunText(work.text, options->key, parser);
     // A document holds its text with CR LF line ends, whatever the input had.
     work.document.text = ToCrLf(run.text);
+    std::vector<std::string> warnings;
     if (options->inPlace && work.isDocument) {
-        if (!cli::SaveDocument(options->path, parser, work.document, error)) return Fail(error);
+        if (!cli::SaveDocument(options->path, parser, work.document, error, warnings, &*lock))
+            return Fail(error);
     } else if (options->inPlace) {
-        if (!cli::ReplaceFile(options->path, run.text, error)) return Fail(error);
+        std::string warning;
+        if (!cli::ReplaceFile(options->path, run.text, error, warning, &*lock)) return Fail(error);
+        if (!warning.empty()) warnings.push_back(warning);
     } else {
         std::cout << run.text << std::flush;
         if (!std::cout) return Fail("cannot write standard output");
     }
     if (!options->savePath.empty() &&
-        !cli::SaveDocument(options->savePath, parser, work.document, error))
+        !cli::SaveDocument(options->savePath, parser, work.document, error, warnings))
         return Fail(error);
+    Warn(warnings);
     ReportFailures(run);
     return run.failures.empty() && work.loadMessages.empty() ? 0 : 1;
 }

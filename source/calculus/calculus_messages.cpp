@@ -113,6 +113,7 @@ constexpr MessageRecord kMessages[] = {
      "\"Line\", \"Area\", \"Polar\" and \"Scatter\" types. Try using one of these 5 types."},
     {kNoSignChange, "%s does not change sign between %s and %s, so no root can be bracketed."},
     {kRootVariable, "%s is not a function of %s, so no root can be searched in it."},
+    {kNotFinite, "The result of %s is not a finite number (%s)."},
 };
 
 }  // namespace

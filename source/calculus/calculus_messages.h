@@ -59,6 +59,8 @@ inline constexpr int kUnequalXData = 24906;
 // The root search has no page of its own; these are the command line's.
 inline constexpr int kNoSignChange = 13190;
 inline constexpr int kRootVariable = 13191;
+// A result beyond the range of numbers, or no number at all.
+inline constexpr int kNotFinite = 13192;
 
 // The text of message `id`, or null for a number without one.
 const char *message(int id);

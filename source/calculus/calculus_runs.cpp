@@ -23,6 +23,13 @@ Outcome Failure(std::string text) {
     return Outcome{false, 0.0L, std::move(text)};
 }
 
+// An infinity or a NaN is no answer to a numeric computation: it is reported, not printed.
+Outcome Finished(long double value, const std::string &expression) {
+    if (std::isfinite(value)) return Outcome{true, value, {}};
+    const char *text = std::isnan(value) ? "nan" : (value < 0 ? "-inf" : "inf");
+    return Failure(Format(message(kNotFinite), expression, text));
+}
+
 // Both ends of a range, the high one first as the pages read them.
 bool EvaluateRange(Parser &parser, const std::string &lowText, const std::string &highText,
                    const std::string &variable, long double &low, long double &high,
@@ -54,7 +61,7 @@ Outcome Integrate(Parser &parser, const IntegralRequest &request) {
     const long double value = parser.RombIntegrate(mapped.map(), mapped.variable_name(), low, high,
                                                    request.accuracy, true);
     if (parser.IsAnError()) return Failure(TakeError(parser));
-    return Outcome{true, value, {}};
+    return Finished(value, request.expression);
 }
 
 Outcome Differentiate(Parser &parser, const DerivativeRequest &request) {
@@ -87,7 +94,7 @@ Outcome Differentiate(Parser &parser, const DerivativeRequest &request) {
         const int failed = kFirstDifferentialFailed + std::clamp(request.order, 1, 3) - 1;
         return Failure(Format(message(failed), request.variable, point.str(), TakeError(parser)));
     }
-    return Outcome{true, value, {}};
+    return Finished(value, request.expression);
 }
 
 Outcome FindRoot(Parser &parser, const RootRequest &request) {
@@ -109,7 +116,7 @@ Outcome FindRoot(Parser &parser, const RootRequest &request) {
     if (!bracketed)
         return Failure(
             Format(message(kNoSignChange), request.expression, request.low, request.high));
-    return Outcome{true, root, {}};
+    return Finished(root, request.expression);
 }
 
 }  // namespace quindar::calculus

@@ -50,7 +50,7 @@ bool CalledBody(Parser &parser, const char *name, std::string &body) {
 std::string Search(Parser &parser, const std::string &text, std::set<std::string> &visited) {
     std::string found = InText(parser, text);
     if (!found.empty()) return found;
-    char token[kExpressionSize];
+    std::string token;
     char type = 0;
     for (const char *rest = parser.get_token(text.c_str(), token, type); rest != nullptr;
          rest = parser.get_token(rest, token, type)) {

@@ -5,6 +5,8 @@
 // The keys of the application's settings file "Quindar.ini", each with its section and the
 // default that a missing file, section or key means.
 
+#include <climits>
+
 #include "color.h"
 
 namespace quindar {
@@ -15,10 +17,14 @@ struct FlagSetting {
     bool deflt;
 };
 
+// A value read outside low to high is held at the nearer end: a settings file may come from
+// anywhere, and what reads it must not be asked for a million digits.
 struct IntSetting {
     const char *section;
     const char *key;
     int deflt;
+    int low = INT_MIN;
+    int high = INT_MAX;
 };
 
 struct TextSetting {
@@ -53,24 +59,26 @@ inline constexpr FlagSetting kUseSquareFunctionBrackets{kOptions, "UseSquareFunc
                                                         false};
 inline constexpr FlagSetting kToolBar{kOptions, "ToolBar", true};
 // 1: hints on pressing; 2: hints on entering.
-inline constexpr IntSetting kHints{kOptions, "Hints", 2};
+inline constexpr IntSetting kHints{kOptions, "Hints", 2, 1, 2};
 inline constexpr FlagSetting kShowCalcBar{kOptions, "ShowCalcBar", true};
 inline constexpr FlagSetting kShowTutorialDownloadDialog{kOptions, "ShowTutorialDownloadDialog",
                                                          true};
 inline constexpr TextSetting kMediaPlayerPath{kOptions, "MediaPlayerPath", ""};
 inline constexpr FlagSetting kVariMgrInstructions{kOptions, "VariMgrInstructions", true};
 inline constexpr FlagSetting kFuncMgrInstructions{kOptions, "FuncMgrInstructions", true};
-inline constexpr IntSetting kIntegrationPrecision{kOptions, "IntegrationPrecision", 6};
-inline constexpr IntSetting kDifferentiationPrecision{kOptions, "DifferentiationPrecision", 6};
-inline constexpr IntSetting kSolverPrecision{kOptions, "SolverPrecision", 6};
+inline constexpr IntSetting kIntegrationPrecision{kOptions, "IntegrationPrecision", 6, 1, 14};
+inline constexpr IntSetting kDifferentiationPrecision{kOptions, "DifferentiationPrecision", 6, 1,
+                                                      14};
+inline constexpr IntSetting kSolverPrecision{kOptions, "SolverPrecision", 6, 1, 14};
 
 inline constexpr FlagSetting kApplyPrecisionFormatToAll{kParserOptions, "ApplyPrecisionFormatToAll",
                                                         true};
 inline constexpr FlagSetting kApplyTrigOptionsToAll{kParserOptions, "ApplyTrigOptionsToAll", true};
 
-inline constexpr IntSetting kWindowWidth{kWindowAttributes, "Window Width", 150};
 inline constexpr int kWindowWidthLowest = 120;
 inline constexpr int kWindowWidthHighest = 450;
+inline constexpr IntSetting kWindowWidth{kWindowAttributes, "Window Width", 150, kWindowWidthLowest,
+                                         kWindowWidthHighest};
 
 // -2 and -1 mean that the key is absent; the start writes -1 and 1 in their place.
 inline constexpr IntSetting kTipPos{kTipOfTheDay, "Pos", -2};

@@ -51,7 +51,9 @@ bool AppSettings::Read(const FlagSetting &setting) const {
 }
 
 int AppSettings::Read(const IntSetting &setting) const {
-    return GetPrivateProfileInt(setting.section, setting.key, setting.deflt, file.c_str());
+    return std::clamp(
+        GetPrivateProfileInt(setting.section, setting.key, setting.deflt, file.c_str()),
+        setting.low, setting.high);
 }
 
 std::string AppSettings::Read(const TextSetting &setting) const {
@@ -93,8 +95,7 @@ bool AppSettings::Write(const ColorSetting &setting, TColor value) const {
 }
 
 int AppSettings::WindowWidth() const {
-    return std::clamp(Read(settings::kWindowWidth), settings::kWindowWidthLowest,
-                      settings::kWindowWidthHighest);
+    return Read(settings::kWindowWidth);
 }
 
 TColor AppSettings::CustomColor(int n) const {

@@ -59,11 +59,10 @@ bool DocumentFile::ReadVariables() {
     const std::vector<std::string> names = snapshot->Keys(kVariablesSection);
     if (names.empty()) return true;
     if (!Progress("Reading And Declaring Variables", 0)) return false;
-    const auto lineSize = static_cast<std::size_t>(std::max(iniFile->SizeOfLongestLine(), 2L));
     AutoDeclare declaring(parser);
     int done = 0;
     for (const std::string &name : names) {
-        std::string value = GetString(kVariablesSection, name.c_str(), "?", lineSize);
+        std::string value = GetString(kVariablesSection, name.c_str(), "?");
         if (value.find('(') != std::string::npos) {
             // "2 (1,10,5,2.25)": the range declares the variable incremental, the value
             // in front of the bracket is then assigned as any other.

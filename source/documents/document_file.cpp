@@ -2,11 +2,8 @@
 // DocumentFile: the order of a save and of a load, and the key access both share.
 #include "document_file.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <cctype>
-#include <filesystem>
 #include <vector>
 
 #include "document_messages.h"
@@ -32,19 +29,6 @@ constexpr int kProgressText = 85;
 std::string upper_case(std::string text) {
     for (char &c : text) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
     return text;
-}
-
-// An existing file that this process may not write, or that has no write permission at all
-// (which a privileged process could otherwise overwrite).
-bool is_read_only(const std::string &path) {
-    namespace fs = std::filesystem;
-    std::error_code error;
-    const fs::file_status status = fs::status(path, error);
-    if (error || !fs::exists(status)) return false;
-    const fs::perms writable =
-        fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
-    return ::access(path.c_str(), W_OK) != 0 ||
-           (status.permissions() & writable) == fs::perms::none;
 }
 
 // The editor's text as a text-mode read and write give it back: every line break CR LF.
@@ -80,18 +64,27 @@ bool DocumentFile::Write(const char *path) {
         Warn(document_message(kMsgFileWasNotSaved), kCaptionSaveFile);
         return false;
     }
-    if (is_read_only(target)) {
+    if (is_read_only_file(target)) {
         Warn(document_message(kMsgReadOnly, upper_case(target).c_str()), kCaptionSaveFile);
         return false;
     }
     ProfileBuilder file(content.text);
     builder = &file;
-    const bool written = WriteVariables() && WriteFunctions() && WriteSettings() && WriteFont() &&
-                         WriteCalculusParameters() && WriteGraphs() &&
-                         replace_file_content(target, file.Content());
+    const bool built = WriteVariables() && WriteFunctions() && WriteSettings() && WriteFont() &&
+                       WriteCalculusParameters() && WriteGraphs();
     builder = nullptr;
-    if (!written) Warn(document_message(kMsgFileWasNotSaved), kCaptionSaveFile);
-    return written;
+    const ReplaceOutcome outcome =
+        built ? replace_file(target, file.Content(), heldLock) : ReplaceOutcome{};
+    if (!outcome.written) {
+        // The system's reason, when there is one, follows the message: the user must know
+        // whether the folder is missing, the disk full or the file too large.
+        std::string text = document_message(kMsgFileWasNotSaved);
+        if (!outcome.reason.empty()) text += " (" + target + ": " + outcome.reason + ")";
+        Warn(text, kCaptionSaveFile);
+    } else if (!outcome.warning.empty()) {
+        Warn(target + ": " + outcome.warning, kCaptionSaveFile);
+    }
+    return outcome.written;
 }
 
 bool DocumentFile::Put(const char *section, const char *key, const std::string &value) {
@@ -143,9 +136,8 @@ bool DocumentFile::Read(const char *path) {
     return true;
 }
 
-std::string DocumentFile::GetString(const char *section, const char *key, const char *deflt,
-                                    std::size_t size) const {
-    return snapshot->String(section, key, deflt, size);
+std::string DocumentFile::GetString(const char *section, const char *key, const char *deflt) const {
+    return snapshot->Whole(section, key, deflt);
 }
 
 int DocumentFile::GetInt(const char *section, const char *key, int deflt) const {

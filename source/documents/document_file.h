@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "document_parts.h"
+#include "file_io.h"
 #include "parser.h"
 #include "var_fun_ini_file.h"
 #include "warning_hook.h"
@@ -51,6 +52,10 @@ public:
     void SetWarningHook(WarningHook hook) { warn = std::move(hook); }
     void SetProgressHook(ProgressHook hook) { progress = std::move(hook); }
     void SetFileName(const char *path) { fileName = path != nullptr ? path : ""; }
+    // A lock the caller already holds on the file a save replaces (taken before the load, so
+    // that a second program saving the same file waits for the whole read, compute and save);
+    // without one, a save takes its own.
+    void SetHeldLock(const FileLock *lock) { heldLock = lock; }
     const std::string &GetFileName() const { return fileName; }
 
     // Saves to path, or to the file name when null. True on success.
@@ -81,8 +86,8 @@ private:
     bool Progress(std::string_view text, int percent) const;
     bool Put(const char *section, const char *key, const std::string &value);
     bool PutInt(const char *section, const char *key, long value);
-    std::string GetString(const char *section, const char *key, const char *deflt,
-                          std::size_t size) const;
+    // A key's whole value: a document keeps what it holds, whatever its length.
+    std::string GetString(const char *section, const char *key, const char *deflt) const;
     int GetInt(const char *section, const char *key, int deflt) const;
     template <class Record>
     bool WriteFields(const Record &record, std::span<const DocumentFieldKey<Record>> keys,
@@ -104,6 +109,7 @@ private:
     std::string fileName;
     WarningHook warn;
     ProgressHook progress;
+    const FileLock *heldLock = nullptr;
 
     // During a save: the file being built; during a load: the file's keys as read once,
     // and its section scanner.

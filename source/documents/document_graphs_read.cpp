@@ -16,11 +16,7 @@ namespace quindar {
 
 namespace {
 
-// The list of graphs is read into this many bytes.
-constexpr std::size_t kGraphListSize = 512;
-constexpr std::size_t kTextKeySize = 1024;
-// A point's value is read into a buffer of this size.
-constexpr int kPointSize = 128;
+constexpr int kHighest3DType = 9999999;
 
 struct AxisText {
     std::string name, low, high, points;
@@ -44,13 +40,13 @@ std::optional<AxisText> split_axis(const std::string &value) {
 }  // namespace
 
 bool DocumentFile::ReadGraphs() {
-    const std::vector<std::string> keys = snapshot->KeyList(kGraphsSection, kGraphListSize);
+    const std::vector<std::string> keys = snapshot->Keys(kGraphsSection);
     if (keys.empty()) return true;
     if (!Progress("Reading And Defining Graphs", 0)) return false;
     for (const std::string &key : keys) {
         GraphData *graph = content.graphs.add();
         if (graph == nullptr) return false;
-        const std::string title = GetString(kGraphsSection, key.c_str(), "", kTextKeySize);
+        const std::string title = GetString(kGraphsSection, key.c_str(), "");
         graph->SetName(title.empty() ? key.c_str() : title.c_str());
         if (!ReadGraph(*graph, key)) return false;
     }
@@ -60,11 +56,11 @@ bool DocumentFile::ReadGraphs() {
 
 bool DocumentFile::ReadGraph(GraphData &graph, const std::string &section) {
     const char *name = section.c_str();
-    graph.SetHeader(GetString(name, "Header", "", kTextKeySize).c_str());
-    graph.SetFooter(GetString(name, "Footer", "", kTextKeySize).c_str());
-    graph.SetXAxisTitle(GetString(name, "XAxisTitle", "", kTextKeySize).c_str());
-    graph.SetYAxisTitle(GetString(name, "YAxisTitle", "", kTextKeySize).c_str());
-    graph.SetZAxisTitle(GetString(name, "ZAxisTitle", "", kTextKeySize).c_str());
+    graph.SetHeader(GetString(name, "Header", "").c_str());
+    graph.SetFooter(GetString(name, "Footer", "").c_str());
+    graph.SetXAxisTitle(GetString(name, "XAxisTitle", "").c_str());
+    graph.SetYAxisTitle(GetString(name, "YAxisTitle", "").c_str());
+    graph.SetZAxisTitle(GetString(name, "ZAxisTitle", "").c_str());
     if (!ReadGraphFunctions(graph, section)) return false;
     if (graph.GetNumFunctions() > 0 && !ReadAxisVariables(graph, section)) return false;
     if (!ReadDataSets(graph, section)) return false;
@@ -82,8 +78,7 @@ bool DocumentFile::ReadGraphFunctions(GraphData &graph, const std::string &secti
         const std::string fullName(value->substr(0, equals));
         const std::string body(equals == std::string::npos ? "" : value->substr(equals + 1));
         Function *function = graph.AddFunction(fullName.c_str(), body.c_str());
-        const std::string label =
-            GetString(section.c_str(), ("Label" + number).c_str(), "", kTextKeySize);
+        const std::string label = GetString(section.c_str(), ("Label" + number).c_str(), "");
         if (function != nullptr && !label.empty()) function->SetFuncLabel(label.c_str());
         if (!Progress({}, -1)) return false;
     }
@@ -94,7 +89,7 @@ bool DocumentFile::ReadAxisVariables(GraphData &graph, const std::string &sectio
     bool failed = false;
     for (const bool xAxis : {true, false}) {
         const std::string value =
-            GetString(section.c_str(), xAxis ? "XAxisVariable" : "ZAxisVariable", "", kTextKeySize);
+            GetString(section.c_str(), xAxis ? "XAxisVariable" : "ZAxisVariable", "");
         if (value.empty()) continue;
         const auto parts = split_axis(value);
         complex low, high, points;
@@ -103,7 +98,7 @@ bool DocumentFile::ReadAxisVariables(GraphData &graph, const std::string &sectio
             failed = true;
             continue;
         }
-        const Variable axis(parts->name.c_str(), low, high, static_cast<long>(points.real));
+        const Variable axis(parts->name.c_str(), low, high, points_from_value(points.real));
         if (xAxis)
             graph.SetXAxisVar(&axis);
         else
@@ -124,13 +119,13 @@ bool DocumentFile::ReadDataSets(GraphData &graph, const std::string &section) {
         StrDataPnts *set = graph.DataSets.add();
         if (set == nullptr) return false;
         const std::string number = std::to_string(n);
-        const std::string setName = GetString(name, ("DataSet" + number).c_str(), "", kTextKeySize);
+        const std::string setName = GetString(name, ("DataSet" + number).c_str(), "");
         if (setName.empty()) {
             Warn(document_message(kMsgDataSetName, n, graph.Name.c_str()), kCaptionFileOpen);
             continue;
         }
         set->SetName(setName.c_str());
-        set->SetLabel(GetString(name, ("DataLabel" + number).c_str(), "", kTextKeySize).c_str());
+        set->SetLabel(GetString(name, ("DataLabel" + number).c_str(), "").c_str());
         ReadDataPoints(graph, *set, section);
         if (!Progress({}, -1)) return false;
     }
@@ -143,11 +138,10 @@ void DocumentFile::ReadDataPoints(GraphData &graph, StrDataPnts &set, const std:
     const int points = std::min(GetInt(name, (set.Name + "NumPts").c_str(), 0), keys);
     const int messages[3] = {kMsgXDataPoint, kMsgYDataPoint, kMsgZDataPoint};
     for (int i = 0; i < points; ++i) {
-        char x[kPointSize], y[kPointSize], z[kPointSize];
-        snapshot->Point(name, (set.Name + "Pt" + std::to_string(i)).c_str(), x, y, z, kPointSize);
-        const char *texts[3] = {x, y, z};
-        for (int c = 0; c < 3; ++c) {
-            const char *text = texts[c];
+        const auto texts =
+            snapshot->PointFields(name, (set.Name + "Pt" + std::to_string(i)).c_str());
+        for (std::size_t c = 0; c < 3; ++c) {
+            const char *text = texts[c].c_str();
             complex value;
             if (*text != '\0' && !Evaluate(text, value)) {
                 Warn(document_message(messages[c], set.Name.c_str(), i, graph.Name.c_str()),
@@ -172,13 +166,18 @@ void DocumentFile::ReadGraphAttributes(GraphData &graph, const std::string &sect
     }
     const int type = GetInt(name, "Type", 1);
     if (type != 0 && (kind == kGraph2D || kind == kGraph3D)) {
-        (kind == kGraph2D ? graph.GraphType2D : graph.GraphType3D) = type;
+        // A 3-D type is seven decimal digits of flags; anything else from a file would leave
+        // the digit arithmetic on it undefined.
+        if (kind == kGraph2D)
+            graph.GraphType2D = type;
+        else
+            graph.GraphType3D = std::clamp(type, 0, kHighest3DType);
         for (const GraphNumberKey &row : kind == kGraph2D ? graph_keys_2d() : graph_keys_3d()) {
             if (row.number != nullptr) {
                 graph.*row.number = GetInt(name, row.key, static_cast<int>(row.deflt));
                 continue;
             }
-            const std::string text = GetString(name, row.key, "", kTextKeySize);
+            const std::string text = GetString(name, row.key, "");
             graph.*row.real =
                 text.empty() ? row.deflt : static_cast<float>(std::atof(text.c_str()));
         }

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The formats, the font and the calculus pages' settings of a document, as tables of keys.
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <span>
 #include <string>
 
@@ -12,12 +14,40 @@ namespace quindar {
 
 namespace {
 
-// Text keys are read into this many bytes; the face name into a font record's 32.
-constexpr std::size_t kTextKeySize = 1024;
-constexpr std::size_t kFaceNameSize = 32;
-constexpr std::size_t kZeroPrecisionSize = 14;
 // A missing zero threshold reads as this text, which a 32-bit float holds as 0.
 constexpr const char *kMissingZeroPrecision = "1.0e-307";
+// The largest zero threshold the options offer; a larger one would print every answer as 0.
+constexpr float kHighestZeroPrecision = 0.1f;
+
+// The values each number of a document may take; one read outside is held at the nearer end,
+// so that a hostile document cannot ask the printing for a billion digits. Keys not listed
+// take any int.
+struct NumberRange {
+    const char *key;
+    int low, high;
+};
+
+const NumberRange kNumberRanges[] = {
+    {"AnsPrecision", 1, 14},    {"VarPrecision", 1, 14},     {"AnsFormat", 0, 1},
+    {"VarFormat", 0, 1},        {"AngleType", 0, 1},         {"Height", -1638, 1638},
+    {"Width", -1638, 1638},     {"Escapement", -3600, 3600}, {"Orientation", -3600, 3600},
+    {"Weight", 0, 1000},        {"IntType", 1, 3},           {"IntPrecision", 1, 14},
+    {"IntAccuracy", 0, 100},    {"DiffPrecision", 1, 14},    {"DiffDispFunc", 0, 1},
+    {"DiffDispFirstDir", 0, 1}, {"DiffDispSecondDir", 0, 1}, {"DiffDispThirdDir", 0, 1},
+};
+
+int held_in_range(const char *key, int value) {
+    for (const NumberRange &range : kNumberRanges)
+        if (std::strcmp(range.key, key) == 0) return std::clamp(value, range.low, range.high);
+    return value;
+}
+
+// Not a number, or below 0, means no threshold.
+float zero_precision_from_text(const std::string &text) {
+    const double value = std::strtod(text.c_str(), nullptr);
+    if (!(value > 0.0)) return 0.0f;
+    return value > kHighestZeroPrecision ? kHighestZeroPrecision : static_cast<float>(value);
+}
 
 }  // namespace
 
@@ -28,7 +58,6 @@ struct DocumentFieldKey {
     int Record::*number = nullptr;
     std::uint8_t Record::*byte = nullptr;
     std::string Record::*text = nullptr;
-    std::size_t textSize = kTextKeySize;
     bool skipEmptyText = true;
 };
 
@@ -59,7 +88,7 @@ const SetupKey kSetupKeys[] = {
 
 using FontKey = DocumentFieldKey<DocumentFont>;
 const FontKey kFontKeys[] = {
-    {"FaceName", nullptr, nullptr, &DocumentFont::FaceName, kFaceNameSize, false},
+    {"FaceName", nullptr, nullptr, &DocumentFont::FaceName, false},
     {"Height", &DocumentFont::Height},
     {"Width", &DocumentFont::Width},
     {"Escapement", &DocumentFont::Escapement},
@@ -140,13 +169,13 @@ void DocumentFile::ReadFields(Record &record, std::span<const DocumentFieldKey<R
     const Record defaults{};
     for (const DocumentFieldKey<Record> &row : keys) {
         if (row.number != nullptr)
-            record.*row.number = GetInt(section, row.key, defaults.*row.number);
+            record.*row.number =
+                held_in_range(row.key, GetInt(section, row.key, defaults.*row.number));
         else if (row.byte != nullptr)
             record.*row.byte =
                 static_cast<std::uint8_t>(GetInt(section, row.key, defaults.*row.byte));
         else
-            record.*row.text =
-                GetString(section, row.key, (defaults.*row.text).c_str(), row.textSize);
+            record.*row.text = GetString(section, row.key, (defaults.*row.text).c_str());
     }
 }
 
@@ -185,15 +214,14 @@ bool DocumentFile::ReadSettings() {
         PrecformType &format = row.answer ? *parser.answer_format : *parser.variable_format;
         switch (row.field) {
             case FormatField::ZeroPrecision:
-                format.zero_precision = static_cast<float>(std::atof(
-                    GetString(kSetupSection, row.key, kMissingZeroPrecision, kZeroPrecisionSize)
-                        .c_str()));
+                format.zero_precision = zero_precision_from_text(
+                    GetString(kSetupSection, row.key, kMissingZeroPrecision));
                 break;
             case FormatField::Precision:
-                format.precision = GetInt(kSetupSection, row.key, 14);
+                format.precision = held_in_range(row.key, GetInt(kSetupSection, row.key, 14));
                 break;
             case FormatField::Format:
-                format.format = GetInt(kSetupSection, row.key, 0);
+                format.format = held_in_range(row.key, GetInt(kSetupSection, row.key, 0));
                 break;
             case FormatField::DecPoint:
                 format.show_decimal_point = GetInt(kSetupSection, row.key, 0) != 0;
@@ -202,7 +230,7 @@ bool DocumentFile::ReadSettings() {
                 format.show_lead_sign = GetInt(kSetupSection, row.key, 0) != 0;
                 break;
             case FormatField::AngleType:
-                parser.angle_mode = GetInt(kSetupSection, row.key, 0);
+                parser.angle_mode = held_in_range(row.key, GetInt(kSetupSection, row.key, 0));
                 break;
         }
     }

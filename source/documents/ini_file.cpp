@@ -61,26 +61,28 @@ bool color_from_text(std::string_view text, TColor deflt, TColor &value) {
     return true;
 }
 
-bool point_from_text(std::string_view text, char *x, char *y, char *z, int size) {
-    char *outputs[3] = {x, y, z};
-    const std::size_t room = size > 0 ? static_cast<std::size_t>(size) : 0;
-    for (char *output : outputs) {
-        if (output != nullptr && room > 0) output[0] = '\0';
-    }
-    std::string_view rest = text.substr(0, kPointBufferSize - 1);
+bool point_fields(std::string_view text, std::array<std::string, 3> &fields) {
+    fields = {};
     bool stored = false;
-    for (int i = 0; i < 3; ++i) {
-        std::size_t comma = rest.find(',');
-        bool last = comma == std::string_view::npos;
-        std::string_view field = text::trim_left(last ? rest : rest.substr(0, comma));
-        if (!field.empty() && outputs[i] != nullptr && room > 0) {
-            copy_cut(field, outputs[i], room);
-            stored = true;
-        }
+    for (std::string &field : fields) {
+        const std::size_t comma = text.find(',');
+        const bool last = comma == std::string_view::npos;
+        field = std::string(text::trim_left(last ? text : text.substr(0, comma)));
+        stored = stored || !field.empty();
         if (last) break;
-        rest.remove_prefix(comma + 1);
+        text.remove_prefix(comma + 1);
     }
     return stored;
+}
+
+bool point_from_text(std::string_view text, char *x, char *y, char *z, int size) {
+    std::array<std::string, 3> fields;
+    const bool stored = point_fields(text.substr(0, kPointBufferSize - 1), fields);
+    char *outputs[3] = {x, y, z};
+    const std::size_t room = size > 0 ? static_cast<std::size_t>(size) : 0;
+    for (std::size_t i = 0; i < 3; ++i)
+        if (outputs[i] != nullptr) copy_cut(fields[i], outputs[i], room);
+    return stored && room > 0;
 }
 
 IniFile::IniFile(const char *path) : fileName(path != nullptr ? path : "") {}

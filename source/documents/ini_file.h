@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -15,6 +16,8 @@ namespace quindar {
 // at most 27 characters, a point's at most 127, as those read them).
 bool color_from_text(std::string_view text, TColor deflt, TColor &value);
 bool point_from_text(std::string_view text, char *x, char *y, char *z, int size);
+// The three fields of a point's value, whole and however long; false when all are empty.
+bool point_fields(std::string_view text, std::array<std::string, 3> &fields);
 
 class IniFile {
 public:

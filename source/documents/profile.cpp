@@ -188,6 +188,11 @@ bool WritePrivateProfileString(const char *section, const char *key, const char 
     if (has_line_break(section) || has_line_break(key) || has_line_break(value)) return false;
     if (key != nullptr && text::trim(key).empty()) return false;
 
+    // Held from the read to the replacement, so that two programs writing keys of one file
+    // do not lose each other's key.
+    std::string reason;
+    const auto lock = FileLock::Acquire(path, reason);
+    if (!lock) return false;
     std::string content;
     if (auto existing = read_whole_file(path)) {
         content = std::move(*existing);
@@ -210,7 +215,7 @@ bool WritePrivateProfileString(const char *section, const char *key, const char 
     } else {
         updated = set_key(text, name, text::trim(key), value);
     }
-    return replace_file_content(path, updated);
+    return replace_file(path, updated, &*lock).written;
 }
 
 }  // namespace quindar

@@ -5,6 +5,8 @@
 #include <functional>
 #include <string_view>
 
+#include "message_text.h"
+
 namespace quindar {
 
 // How the file layer asks for a warning box: the text and the caption. The application
@@ -13,7 +15,7 @@ namespace quindar {
 using WarningHook = std::function<void(std::string_view text, std::string_view caption)>;
 
 inline void show_warning(const WarningHook &hook, std::string_view text, std::string_view caption) {
-    if (hook) hook(text, caption);
+    if (hook) hook(printable_message(text), printable_message(caption));
 }
 
 }  // namespace quindar

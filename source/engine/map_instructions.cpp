@@ -83,7 +83,7 @@ void MapSolver::append_general_rows(std::vector<MapInstructionRow> &rows) {
          nullptr},
         {I::AssignPoints, nullptr, 0, false, kLanguage,
          [](Parser &p, MapRun &run, const complex *) {
-             p.set_var_numpoints(static_cast<long>(std::trunc(run.stack.back().real)),
+             p.set_var_numpoints(points_from_value(std::trunc(run.stack.back().real)),
                                  run.next_name());
              return complex{};
          },

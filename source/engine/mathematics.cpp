@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 #include "mathematics.h"
+#include "message_text.h"
 
 #include <climits>
 #include <cmath>
@@ -208,7 +209,7 @@ void Mathematics::free_matrix(long double **m, long, long, long, long) {
 
 void Mathematics::SetLastError(const char *text) {
     error = true;
-    if (text != nullptr) error_text = text;
+    if (text != nullptr) error_text = printable_message(text);
 }
 
 void Mathematics::ClearLastError() {

@@ -5,6 +5,8 @@
 #include <functional>
 #include <string_view>
 
+#include "message_text.h"
+
 namespace quindar {
 
 // The kinds of box the engine asks for; the application maps them to its dialogs.
@@ -25,7 +27,7 @@ using MessageHook =
 inline bool show_message(const MessageHook *hook, std::string_view text, std::string_view caption,
                          MessageStyle style = MessageStyle::Warning) {
     if (hook == nullptr || !*hook) return false;
-    return (*hook)(text, caption, style);
+    return (*hook)(printable_message(text), printable_message(caption), style);
 }
 
 }  // namespace quindar

@@ -18,6 +18,15 @@ void init_number_stream(std::ostream &stream, const PrecformType &format) {
     stream.precision(format.precision);
 }
 
+bool stream_non_finite(const complex &value, std::ostream &stream) {
+    if (std::isfinite(value.real) && std::isfinite(value.imag)) return false;
+    if (std::isnan(value.real) || !std::isfinite(value.imag))
+        stream << "nan";
+    else
+        stream << (value.real < 0 ? "-inf" : "inf");
+    return true;
+}
+
 void stream_imaginary(double imag, bool real_written, std::ostream &stream) {
     if (imag > 0 && real_written) stream << '+';
     if (imag < 0) stream << '-';
@@ -32,6 +41,7 @@ void stream_answer(complex &value, std::ostream &stream, int precision,
     long digits = precision == -1 ? format.precision : precision;
     if (stream.flags() & std::ios_base::scientific) digits -= 1;
     stream.precision(digits);
+    if (stream_non_finite(value, stream)) return;
     if (value.real == 0 && value.imag == 0) {
         stream << 0.0;
         return;
@@ -46,6 +56,7 @@ void stream_variable(Mathematics &math, complex &value, std::ostream &stream, in
         Mathematics::round_zero(value, format.zero_precision);
     else
         stream.precision(precision);
+    if (stream_non_finite(value, stream)) return;
     if (value.real == 0 && value.imag == 0) {
         stream << 0.0;
         return;

@@ -26,6 +26,11 @@ void stream_answer(complex &value, std::ostream &stream, int precision, const Pr
 void stream_variable(Mathematics &math, complex &value, std::ostream &stream, int precision,
                      const PrecformType &format);
 
+// A value with a part that is no finite number prints as one word, whatever the format:
+// "inf" or "-inf" for an infinite real part beside a finite imaginary one, "nan" for anything
+// else (an undefined part, an infinite imaginary part). True when it wrote one.
+bool stream_non_finite(const complex &value, std::ostream &stream);
+
 // Writes the imaginary part behind a real part that was written or not: "+2i", "-i", "i".
 void stream_imaginary(double imag, bool real_written, std::ostream &stream);
 

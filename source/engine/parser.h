@@ -11,6 +11,7 @@
 #include <ostream>
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include "complex.h"
 #include "computation_hooks.h"
@@ -78,8 +79,8 @@ public:
     void set_message_hook(MessageHook hook);
 
     // One-shot token reading for callers outside evaluation. Returns the position behind
-    // the token, or null at the end or on an error.
-    const char *get_token(const char *text, char *tokenOut, char &typeOut);
+    // the token, or null at the end or on an error. A token may be as long as its text.
+    const char *get_token(const char *text, std::string &tokenOut, char &typeOut);
     // True when text holds a name token equal to name (case sensitive).
     bool find_token(const char *text, const char *name, char unused = 0);
 
@@ -232,6 +233,8 @@ public:
     void parser_exception(int number);
     void special_exception(const char *format, const char *argument);
     void special_exception(const char *format, char argument);
+    // The same for the character that starts at `at`, a whole UTF-8 character when it is one.
+    void character_exception(const char *format, const char *at);
     void special_exception();
     // A function library error: message `number` with the name of function `functionIndex`
     // (-1 for none) and, for the messages that take one, `text` before it.
@@ -255,6 +258,12 @@ public:
     void get_comline_data(std::ostream &answer, DynArray<long double, 10> &list, int fn);
     bool get_file_data(DynArray<long double, 10> &list, const char *name, int fn);
     bool get_file_data(DynArray<std::string, 10> &list, const char *name, int fn);
+    // The data files whose entries engines made for them are evaluating, outermost first, and
+    // what all nested reads of one outer file may still cost. A file entry may name another
+    // data file, so without these a file that reads itself would recurse until the stack ends.
+    std::vector<std::string> data_file_chain;
+    std::shared_ptr<long> nested_data_budget;
+    bool may_read_data_file(const std::string &identity, const char *name);
 
     void check_no_right_bracket(int number, int fn);
     void check_right_bracket(int number, int fn);

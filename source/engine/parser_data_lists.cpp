@@ -2,7 +2,11 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 // The brace argument of the list functions: a list of expressions, or the name of a
 // data file whose entries a second, empty engine evaluates.
+#include <algorithm>
+#include <climits>
+#include <cstdlib>
 #include <cstring>
+#include <memory>
 #include <vector>
 
 #include "data_file.h"
@@ -12,6 +16,18 @@
 namespace quindar {
 
 namespace {
+// How deep data files may name data files, and what the nested reads under one outer file may
+// cost together: each entry counts 1 and each file, whose engine opens the libraries, 100.
+constexpr std::size_t kDataFileNestingLimit = 8;
+constexpr long kNestedDataBudget = 8L * mathlib::kDataEntryLimit;
+constexpr long kNestedFileCost = 100;
+
+// The same file under any name: its resolved path when it has one.
+std::string data_file_identity(const char *name) {
+    std::unique_ptr<char, decltype(&std::free)> resolved(::realpath(name, nullptr), &std::free);
+    return resolved ? std::string(resolved.get()) : std::string(name);
+}
+
 constexpr int kIncomplete = 0, kCommaExpected = 1, kCommaOutOfPlace = 8, kTwoOrMore = 9,
               kBracketMisplaced = 10, kBraceMissing = 11, kPointNotReal = 13;
 }  // namespace
@@ -103,13 +119,44 @@ bool Parser::get_file_data(DynArray<std::string, 10> &list, const char *name, in
     return true;
 }
 
+bool Parser::may_read_data_file(const std::string &identity, const char *name) {
+    if (std::find(data_file_chain.begin(), data_file_chain.end(), identity) !=
+        data_file_chain.end()) {
+        report_data_file_error(
+            format_message("Data File ' %s ' Is Read By One Of Its Own Entries!", name));
+        return false;
+    }
+    if (data_file_chain.size() >= kDataFileNestingLimit) {
+        report_data_file_error(format_message(
+            "Data File ' %s ' Is Nested Too Deeply In Other Data Files, Limit Is %d Files!", name,
+            static_cast<int>(kDataFileNestingLimit)));
+        return false;
+    }
+    return true;
+}
+
 // Each entry is evaluated by a second engine with no variables, so entries may use
 // numbers, constants and functions but nothing of the document.
 bool Parser::get_file_data(DynArray<long double, 10> &list, const char *name, int fn) {
     DynArray<std::string, 10> entries;
     list.flush();
+    const std::string identity = data_file_identity(name ? name : "");
+    if (!may_read_data_file(identity, name ? name : "")) return false;
     if (!get_file_data(entries, name, fn)) return false;
+    if (nested_data_budget) {
+        *nested_data_budget -= entries.count() + kNestedFileCost;
+        if (*nested_data_budget < 0) {
+            report_data_file_error(format_message(
+                "The Data Files Read Inside ' %s ' Hold Too Many Data Points, Limit Is %ld!",
+                data_file_chain.front().c_str(), kNestedDataBudget));
+            return false;
+        }
+    }
     Parser reader(lib_dir.c_str(), user_lib_dir.c_str());
+    reader.data_file_chain = data_file_chain;
+    reader.data_file_chain.push_back(identity);
+    reader.nested_data_budget =
+        nested_data_budget ? nested_data_budget : std::make_shared<long>(kNestedDataBudget);
     reader.open_function_libraries(library_opener);
     for (int k = 0; k < entries.count(); ++k) {
         complex value;

@@ -9,6 +9,7 @@
 
 #include "evaluation_abort.h"
 #include "mapm_complex.h"
+#include "message_text.h"
 #include "number_text.h"
 #include "parser.h"
 #include "parser_messages.h"
@@ -59,8 +60,9 @@ const char *Parser::eval_exp(const char *text, complex &result, bool silentMode,
     init_number_stream(answer, *answer_format);
     ++recovery_points;
     try {
-        if (text == nullptr || std::strlen(text) >= kExpressionSize) parser_exception(0);
-        std::strcpy(expr.get(), text);
+        const std::size_t length = text != nullptr ? std::strlen(text) : kExpressionSize;
+        if (length >= kExpressionSize) parser_exception(0);
+        std::memcpy(expr.get(), text, length + 1);
         evaluate_line(result, answer);
     } catch (const EvaluationAbort &) {
         Parser::FreeMapmValues();
@@ -144,7 +146,7 @@ void Parser::SetLastError(const char *text, int number) {
     error = true;
     error_number = number;
     if (text != nullptr)
-        error_text = text;
+        error_text = printable_message(text);
     else
         error_text.reset();
 }
@@ -197,6 +199,13 @@ void Parser::special_exception(const char *format, char argument) {
     const int size = std::snprintf(nullptr, 0, format, argument);
     std::string text(static_cast<std::size_t>(size > 0 ? size : 0), '\0');
     std::snprintf(text.data(), text.size() + 1, format, argument);
+    raise(text, messages::kParserCaption, -1);
+}
+
+void Parser::character_exception(const char *format, const char *at) {
+    std::string text = format;
+    const auto mark = text.find("%c");
+    if (mark != std::string::npos) text.replace(mark, 2, character_at(at));
     raise(text, messages::kParserCaption, -1);
 }
 

@@ -79,7 +79,7 @@ const char *Parser::get_token() {
     }
     // Nothing can start a token here (a control character, a code above 127, an
     // underscore): refuse it rather than stand still.
-    special_exception(messages::kNotLegitimate, c);
+    character_exception(messages::kNotLegitimate, prog);
     prog += std::strlen(prog);
     return nullptr;
 }
@@ -104,7 +104,7 @@ void Parser::read_number() {
             point = true;
         } else if (!is_digit(*prog)) {
             // A character that cannot belong to a number must not be silently cut off.
-            special_exception(messages::kNotLegitimate, *prog);
+            character_exception(messages::kNotLegitimate, prog);
             prog += std::strlen(prog);
             return;
         }
@@ -148,9 +148,12 @@ void Parser::check_valid_input(char *text) {
     const char *p = text;
     while (is_blank(*p)) ++p;
     if (*p == '=') parser_exception(11);
+    // One walk from the start: whichever comes first, a character that is not legitimate or a
+    // comma out of place, decides the message.
     int depth = 0;
-    check_legitimate_characters(p);
     for (; *p != '\0'; ++p) {
+        if (std::strchr(kNotLegitimate, *p) != nullptr)
+            special_exception(messages::kNotLegitimate, *p);
         if (*p == '[') ++depth;
         if (*p == ']') --depth;
         if (*p == ',' && depth == 0) {
@@ -227,16 +230,17 @@ bool Parser::is_function_declaration() {
     return true;
 }
 
-const char *Parser::get_token(const char *text, char *tokenOut, char &typeOut) {
-    if (text == nullptr || tokenOut == nullptr) return nullptr;
+const char *Parser::get_token(const char *text, std::string &tokenOut, char &typeOut) {
+    if (text == nullptr) return nullptr;
     error = false;
     SetSolvingMap(true);
-    auto copy = std::make_unique<char[]>(std::strlen(text) + 1);
-    std::strcpy(copy.get(), text);
+    const std::size_t length = std::strlen(text) + 1;
+    auto copy = std::make_unique<char[]>(length);
+    std::memcpy(copy.get(), text, length);
     prog = copy.get();
     const char *result = nullptr;
     if (get_token() != nullptr && !error) {
-        std::strcpy(tokenOut, token.c_str());
+        tokenOut = token;
         typeOut = token_type;
         result = text + (prog - copy.get());
     }
@@ -249,8 +253,9 @@ bool Parser::find_token(const char *text, const char *name, char) {
     if (text == nullptr || name == nullptr) return false;
     error = false;
     SetSolvingMap(true);
-    auto copy = std::make_unique<char[]>(std::strlen(text) + 1);
-    std::strcpy(copy.get(), text);
+    const std::size_t length = std::strlen(text) + 1;
+    auto copy = std::make_unique<char[]>(length);
+    std::memcpy(copy.get(), text, length);
     prog = copy.get();
     bool found = false;
     while (!found && get_token() != nullptr && !error && !at_end())

@@ -244,7 +244,7 @@ void Parser::declare_variable(complex &value, std::ostream &answer, const char *
         eval_exp1(value, answer);
         if (value.imag != 0 || !is_integer(value.real))
             special_exception(messages::kPointsNotInteger, variable_name.c_str());
-        set_var_numpoints(static_cast<long>(value.real), variable_name.c_str());
+        set_var_numpoints(points_from_value(value.real), variable_name.c_str());
         record(Instruction::AssignPoints, value, variable_name.c_str());
         plain_number = true;
     }

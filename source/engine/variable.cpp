@@ -149,6 +149,7 @@ bool Variable::SetVarLowLimit(complex limit) {
 void Variable::StreamVariable(complex number, std::ostream &stream, int precision) {
     if (precision > 0) stream.precision(precision);
     if (precision == 0) stream.precision(1);
+    if (stream_non_finite(number, stream)) return;
     if (number.real == 0 && number.imag == 0) {
         stream << 0.0;
         return;

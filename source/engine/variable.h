@@ -5,12 +5,22 @@
 // A named complex value that may also carry a range: low limit, high limit and number of
 // points, through which it can step itself (graph axes, integration, `x = 0, 10, 11`).
 
+#include <climits>
 #include <ostream>
 #include <string>
 
 #include "complex.h"
 
 namespace quindar {
+
+// A count of points from a value: the whole part, held within the range of long (a value
+// such as 10^300 or an infinity would make the conversion undefined); NaN gives 0.
+inline long points_from_value(double value) {
+    if (!(value == value)) return 0;
+    if (value >= 9.2e18) return LONG_MAX;
+    if (value <= -9.2e18) return LONG_MIN;
+    return static_cast<long>(value);
+}
 
 class Variable {
 public:

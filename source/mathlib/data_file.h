@@ -6,6 +6,7 @@
 // line ends; an entry like `12)` is a label and takes no place; no comments.
 
 #include <array>
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -13,13 +14,16 @@ namespace quindar::mathlib {
 
 enum class DataFileStatus {
     Read,
-    CannotOpen,  // "Data File ' %s ' Could Not Be Located!"
+    CannotOpen,  // "Data File ' %s ' Could Not Be Located!"; also a folder, a device, no access
     NoData,      // "No Data Found In The ' %s ' Data File!"
     TooMany,     // "Too Many Data Points Found In The ' %s ' Data File, Limit Is 32767 Points!"
 };
 
 // Reading stops with an error when the count of entries reaches this.
 inline constexpr int kDataEntryLimit = 32767;
+// A file of more bytes than this is refused as too many data points: every entry is a line
+// of the engine, which holds at most 1,024 characters, and all of them are kept in memory.
+inline constexpr std::size_t kDataFileByteLimit = std::size_t{kDataEntryLimit} * 1024;
 
 // The entries of a data file in file order.
 DataFileStatus read_data_entries(const std::string &path, std::vector<std::string> &entries);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The uniform generator, the error channel and the draws that take one formula each.
 #include "deviates.h"
+#include "message_text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -112,7 +113,7 @@ void Deviates::exception(int index) {
 
 void Deviates::SetLastError(const char *text) {
     error = true;
-    if (text != nullptr) error_text = text;
+    if (text != nullptr) error_text = printable_message(text);
 }
 
 void Deviates::ClearLastError() {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Statistics: construction, the error channel, sums, moments and counting functions.
 #include "statistics.h"
+#include "message_text.h"
 
 #include <cmath>
 
@@ -52,7 +53,7 @@ void Statistics::stat_exception(int index) {
 
 void Statistics::SetLastError(const char *text) {
     error = true;
-    if (text != nullptr) error_text = text;
+    if (text != nullptr) error_text = printable_message(text);
 }
 
 void Statistics::ClearLastError() {

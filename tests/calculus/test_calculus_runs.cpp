@@ -137,5 +137,17 @@ TEST_F(CalculusRuns, RootsAndMissingBrackets) {
               "bracketed.");
 }
 
+// A result that is no finite number is an error with its reason, never a value to print.
+TEST_F(CalculusRuns, ResultsThatAreNotFiniteAreErrors) {
+    const Outcome integral = Integrate(parser, {"x^2", "x", "-1*10^300", "10^300"});
+    EXPECT_FALSE(integral.ok);
+    EXPECT_EQ(integral.error.rfind("The result of x^2 is not a finite number (", 0), 0u)
+        << integral.error;
+    const Outcome derivative = Differentiate(parser, {"POW[10,400]*x", "x", "1"});
+    EXPECT_FALSE(derivative.ok);
+    EXPECT_EQ(derivative.error.rfind("The result of POW[10,400]*x is not a finite number (", 0), 0u)
+        << derivative.error;
+}
+
 }  // namespace
 }  // namespace quindar::calculus

@@ -155,6 +155,28 @@ TEST_F(Settings, WindowWidthIsHeldBetweenItsLimits) {
     }
 }
 
+// A settings file from anywhere cannot ask for more digits or other hints than there are.
+TEST_F(Settings, NumbersAreHeldInTheirRanges) {
+    const struct {
+        const IntSetting &setting;
+        int written;
+        int read;
+    } cases[] = {
+        {settings::kIntegrationPrecision, 2147483647, 14},
+        {settings::kIntegrationPrecision, -3, 1},
+        {settings::kDifferentiationPrecision, 15, 14},
+        {settings::kDifferentiationPrecision, 9, 9},
+        {settings::kSolverPrecision, 0, 1},
+        {settings::kHints, 7, 2},
+        {settings::kHints, 1, 1},
+        {settings::kWindowWidth, 100000, 450},
+    };
+    for (const auto &c : cases) {
+        settings.Write(c.setting, c.written);
+        EXPECT_EQ(settings.Read(c.setting), c.read) << c.setting.key << " " << c.written;
+    }
+}
+
 TEST_F(Settings, WritesAreReadBackInTheirForms) {
     EXPECT_TRUE(settings.Write(settings::kSound, false));
     EXPECT_TRUE(settings.Write(settings::kShowCalcBar, true));

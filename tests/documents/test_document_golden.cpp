@@ -104,7 +104,7 @@ TEST(DocumentLoad, SettingsFontAndCalculusKeys) {
     EXPECT_EQ(work.parser.angle_mode, 1);
 
     const DocumentFont &font = work.content.font;
-    EXPECT_EQ(font.FaceName, "Times New Roman With A Name Far");  // 31 bytes and a NUL
+    EXPECT_EQ(font.FaceName, "Times New Roman With A Name Far Too Long For The Record");
     EXPECT_EQ(font.Height, -20);
     EXPECT_EQ(font.Italic, 1);  // a byte keeps the low 8 bits of 257
     EXPECT_EQ(font.Weight, 700);

@@ -94,5 +94,40 @@ TEST_F(DataLists, FileNamesAreToldFromLists) {
     std::filesystem::current_path(previous);
 }
 
+// A data file may name data files in its entries; a file that reads itself, a chain that is
+// too deep, and nested files that together hold too much end with a message, not a crash.
+TEST_F(DataLists, NestedDataFilesAreBounded) {
+    const std::string self = folder.path() + "/self.txt";
+    file("self.txt", "SRESIST[{" + self + "}] 1");
+    const std::string inside =
+        "The Following Error Occured While Loading Data Point 0 In File " + self + " : ";
+    EXPECT_EQ(evaluate(parser, ("SRESIST[{" + self + "}]").c_str()),
+              inside + "Data File ' " + self + " ' Is Read By One Of Its Own Entries!");
+
+    // n0 reads n1 ... n8 reads n9: n8 is the ninth file in the chain, one more than the limit.
+    for (int k = 0; k < 10; ++k) {
+        const std::string next = folder.path() + "/n" + std::to_string(k + 1) + ".txt";
+        file("n" + std::to_string(k) + ".txt", k < 9 ? "SRESIST[{" + next + "}] 1" : "2 3");
+    }
+    EXPECT_EQ(evaluate(parser, ("SRESIST[{" + folder.path() + "/n2.txt}]").c_str()), " = 12");
+    const std::string deep = evaluate(parser, ("SRESIST[{" + folder.path() + "/n0.txt}]").c_str());
+    EXPECT_NE(deep.find("Data File ' " + folder.path() +
+                        "/n8.txt ' Is Nested Too Deeply In Other Data Files, Limit Is 8 Files!"),
+              std::string::npos)
+        << deep;
+
+    // A thousand entries that each read a file of a thousand: far beyond what nesting may cost.
+    std::string numbers, readers;
+    for (int k = 0; k < 1000; ++k) numbers += "1 ";
+    for (int k = 0; k < 1000; ++k) readers += "SRESIST[{" + folder.path() + "/numbers.txt}] ";
+    file("numbers.txt", numbers);
+    const std::string many = file("readers.txt", readers);
+    const std::string costly = evaluate(parser, ("SRESIST[{" + many + "}]").c_str());
+    EXPECT_NE(costly.find("The Data Files Read Inside ' " + many +
+                          " ' Hold Too Many Data Points, Limit Is 262136!"),
+              std::string::npos)
+        << costly;
+}
+
 }  // namespace
 }  // namespace quindar

@@ -101,26 +101,38 @@ TEST_F(RecordingParser, SecondParserInsideAnEvaluationLeavesTheFirstIntact) {
 }
 
 TEST_F(RecordingParser, OneShotTokenReading) {
-    char token[64];
+    std::string token;
     char type = -1;
     const char *text = "  alpha+12";
     const char *rest = parser.get_token(text, token, type);
     ASSERT_NE(rest, nullptr);
-    EXPECT_STREQ(token, "alpha");
+    EXPECT_EQ(token, "alpha");
     EXPECT_EQ(type, kName);
     rest = parser.get_token(rest, token, type);
-    EXPECT_STREQ(token, "+");
+    EXPECT_EQ(token, "+");
     EXPECT_EQ(type, kDelimiter);
     rest = parser.get_token(rest, token, type);
-    EXPECT_STREQ(token, "12");
+    EXPECT_EQ(token, "12");
     EXPECT_EQ(type, kNumber);
     EXPECT_STREQ(rest, "");
     rest = parser.get_token("<=", token, type);
-    EXPECT_EQ(std::string(token), std::string(2, kLessEqual));
+    EXPECT_EQ(token, std::string(2, kLessEqual));
     EXPECT_EQ(parser.get_token("1.2.3", token, type), nullptr);
     EXPECT_TRUE(parser.IsAnError());
     ASSERT_EQ(boxes.size(), 1u);
     EXPECT_EQ(boxes[0].text, "Too many decimal points found in number!");
+}
+
+// A token is as long as its text: names and numbers far beyond the line buffer come back whole.
+TEST_F(RecordingParser, OneShotTokenReadingKeepsLongTokens) {
+    for (const std::string &text : {std::string(5000, 'a'), std::string(3000, '7')}) {
+        std::string token;
+        char type = -1;
+        const char *rest = parser.get_token((text + "+1").c_str(), token, type);
+        ASSERT_NE(rest, nullptr);
+        EXPECT_EQ(token, text);
+        EXPECT_STREQ(rest, "+1");
+    }
 }
 
 TEST_F(RecordingParser, FindTokenMatchesWholeNamesCaseSensitively) {

@@ -170,7 +170,7 @@ TEST(Errors, EveryRaisedMessageOfTheGrammar) {
         {"2;3", "' ; ' is not a legitimate mathematical character!"},
         {"2 # 3", "' # ' is not a legitimate mathematical character!"},
         {"2_3", "' _ ' is not a legitimate mathematical character!"},
-        {"\x01", "' \x01 ' is not a legitimate mathematical character!"},
+        {"\x01", "' U+0001 ' is not a legitimate mathematical character!"},
         {"1, 2",
          "A comma ' , ' can only be used to separate function parameters or define an incremental "
          "variable!"},

@@ -3,8 +3,12 @@
 // Declaring, assigning and reading variables, incremental ranges and the table.
 #include <gtest/gtest.h>
 
+#include <climits>
+#include <limits>
+
 #include "line_table.h"
 #include "parser.h"
+#include "variable.h"
 
 namespace quindar {
 namespace {
@@ -199,6 +203,22 @@ TEST(VariableTable, VariablesSurviveAFailedLine) {
          "' b ' Could Not Be Identified As A Variable Or Function."},  // created after its value
     };
     check_lines(parser, table);
+}
+
+// A count of points beyond the range of long is held at its end instead of being converted
+// with undefined result; the same in a recorded map.
+TEST(VariableLines, HugePointCountsAreHeldInRange) {
+    Parser parser("", "");
+    parser.eval_exp("x = 0, 10, 10^300", true, false);
+    ASSERT_FALSE(parser.IsAnError()) << parser.GetLastError();
+    EXPECT_EQ(parser.get_var_numpoints("x"), LONG_MAX);
+    const struct {
+        double value;
+        long points;
+    } table[] = {{1e300, LONG_MAX}, {-1e300, LONG_MIN}, {12.9, 12}, {-3.5, -3}, {0.0, 0}};
+    for (const auto &row : table) EXPECT_EQ(points_from_value(row.value), row.points) << row.value;
+    EXPECT_EQ(points_from_value(std::numeric_limits<double>::quiet_NaN()), 0);
+    EXPECT_EQ(points_from_value(std::numeric_limits<double>::infinity()), LONG_MAX);
 }
 
 }  // namespace

@@ -4,6 +4,8 @@
 #include "data_file.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <cstdlib>
 #include <filesystem>
@@ -61,6 +63,38 @@ TEST_F(DataFiles, TheLimitIs32766Entries) {
     EXPECT_EQ(read_data_entries(file("big.txt", content), entries), DataFileStatus::Read);
     EXPECT_EQ(entries.size(), 32766u);
     EXPECT_EQ(read_data_entries(file("big.txt", content + "1"), entries), DataFileStatus::TooMany);
+}
+
+// Anything but a regular file is no data file: no exception, no wait for a writer, no
+// endless read; the data-file message instead.
+TEST_F(DataFiles, OnlyRegularFilesAreRead) {
+    const std::string fifo = folder.path() + "/pipe";
+    ASSERT_EQ(::mkfifo(fifo.c_str(), 0600), 0);
+    const std::string unreadable = file("secret.txt", "1 2 3");
+    ::chmod(unreadable.c_str(), 0);
+    for (const std::string &path : {folder.path(), std::string("/"), std::string("/dev/zero"),
+                                    std::string("/dev/null"), fifo, unreadable}) {
+        if (path == unreadable && ::geteuid() == 0) continue;  // the superuser reads it anyway
+        std::vector<std::string> entries;
+        std::vector<PointRow> rows;
+        EXPECT_EQ(read_data_entries(path, entries), DataFileStatus::CannotOpen) << path;
+        EXPECT_EQ(read_data_points(path, rows), DataFileStatus::CannotOpen) << path;
+        EXPECT_TRUE(entries.empty() && rows.empty()) << path;
+    }
+}
+
+// A huge file stops being read at the limits instead of being taken whole.
+TEST_F(DataFiles, ReadingStopsAtTheByteLimit) {
+    const std::string sparse = file("sparse.txt", "1 2 ");
+    ASSERT_EQ(::truncate(sparse.c_str(), static_cast<off_t>(kDataFileByteLimit + 4096)), 0);
+    std::vector<std::string> entries;
+    EXPECT_EQ(read_data_entries(sparse, entries), DataFileStatus::TooMany);
+    const std::string blanks(kDataFileByteLimit + 1, ' ');
+    EXPECT_EQ(read_data_entries(file("blank.txt", blanks), entries), DataFileStatus::TooMany);
+    std::string exact(kDataFileByteLimit, ' ');
+    exact[0] = '7';
+    EXPECT_EQ(read_data_entries(file("exact.txt", exact), entries), DataFileStatus::Read);
+    EXPECT_EQ(entries, std::vector<std::string>{"7"});
 }
 
 TEST_F(DataFiles, PointRows) {
