@@ -56,7 +56,7 @@ std::string Search(Parser &parser, const std::string &text, std::set<std::string
          rest = parser.get_token(rest, token, type)) {
         if (type != kName || !visited.insert(token).second) continue;
         std::string body;
-        if (!CalledBody(parser, token, body)) continue;
+        if (!CalledBody(parser, token.c_str(), body)) continue;
         found = Search(parser, body, visited);
         if (!found.empty()) return found;
     }
