@@ -58,6 +58,11 @@ DocumentArea::DocumentArea(Workbench &owner, QWidget *parent) : QMdiArea(parent)
     connect(this, &QMdiArea::subWindowActivated, this, &DocumentArea::currentDocumentChanged);
 }
 
+DocumentArea::~DocumentArea() {
+    for (const auto &[key, window] : windows)
+        if (window != nullptr) window->disconnect(this);
+}
+
 bool DocumentArea::LimitReached() {
     if (!roster.Full()) return false;
     workbench.Messages().Show(this, kMsgWindowLimit, kTitleClientWindowManager, kBoxWarning);
@@ -166,13 +171,13 @@ void DocumentArea::Activate(int index) {
 }
 
 void DocumentArea::Removed(int key) {
-    windows.erase(key);
+    if (windows.erase(key) == 0) return;
     const std::optional<int> next = roster.Remove(key);
     if (next) {
         // The client's own choice, after the MDI area has made its own.
         QTimer::singleShot(0, this, [this, nextKey = roster.KeyAt(*next)] {
             const auto found = windows.find(nextKey);
-            if (found == windows.end()) return;
+            if (found == windows.end() || found->second == nullptr) return;
             setActiveSubWindow(found->second);
             if (auto *document = qobject_cast<DocumentWindow *>(found->second->widget()))
                 document->TextPane().setFocus();
@@ -184,14 +189,15 @@ void DocumentArea::Removed(int key) {
 
 bool DocumentArea::CloseDocument(DocumentWindow *document) {
     for (const auto &[key, window] : windows)
-        if (window->widget() == document) return window->close();
+        if (window != nullptr && window->widget() == document) return window->close();
     return false;
 }
 
 bool DocumentArea::CloseAllDocuments() {
     for (int index = roster.Count() - 1; index >= 0; --index) {
         const auto found = windows.find(roster.KeyAt(index));
-        if (found != windows.end() && !found->second->close()) return false;
+        if (found != windows.end() && found->second != nullptr && !found->second->close())
+            return false;
     }
     return true;
 }
@@ -215,6 +221,8 @@ bool DocumentArea::eventFilter(QObject *watched, QEvent *event) {
             event->ignore();
             return true;
         }
+        // The document leaves the table now; its window goes when the MDI area lets it.
+        if (window != nullptr) Removed(window->property("documentKey").toInt());
     }
     if (watched == viewport() &&
         (event->type() == QEvent::DragEnter || event->type() == QEvent::Drop)) {

@@ -7,13 +7,13 @@
 // them.
 
 #include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QPointer>
 #include <QStringList>
 #include <map>
 
 #include "command_router.h"
 #include "document_roster.h"
-
-class QMdiSubWindow;
 
 namespace quindar {
 
@@ -24,6 +24,7 @@ class DocumentArea : public QMdiArea, public CommandTarget {
     Q_OBJECT
 public:
     DocumentArea(Workbench &workbench, QWidget *parent = nullptr);
+    ~DocumentArea() override;
 
     // A new untitled document; null when the limit is reached.
     DocumentWindow *NewDocument();
@@ -66,7 +67,7 @@ private:
 
     Workbench &workbench;
     DocumentRoster roster;
-    std::map<int, QMdiSubWindow *> windows;
+    std::map<int, QPointer<QMdiSubWindow>> windows;
     int nextKey = 1;
 };
 

@@ -60,6 +60,11 @@ MainFrame::MainFrame(Workbench &owner) : workbench(owner) {
     resize(1000, 700);
 }
 
+// The client's windows go with the frame; their last signals find no frame to update.
+MainFrame::~MainFrame() {
+    client->disconnect(this);
+}
+
 QAction *MainFrame::MakeAction(int id) {
     const CommandInfo *command = find_command(id);
     auto *action = new QAction(QString::fromUtf8(command->label), this);

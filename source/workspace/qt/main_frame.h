@@ -26,6 +26,7 @@ class MainFrame : public QMainWindow, public CommandTarget {
     Q_OBJECT
 public:
     explicit MainFrame(Workbench &workbench);
+    ~MainFrame() override;
 
     DocumentArea *Client() const { return client; }
     QToolBar *ToolBar() const { return toolBar; }

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Quindar developers
+#pragma once
+
+// A running desktop program for widget tests: temporary user folders with sound off and no
+// tip at start, file dialogs and message boxes answered from a script. A box the script did
+// not expect is answered with Cancel (or OK) and recorded, and the test fails on it.
+
+#include <QStringList>
+#include <QTemporaryDir>
+#include <deque>
+#include <memory>
+#include <string>
+
+#include "app_services.h"
+#include "desktop_folders.h"
+#include "workbench.h"
+
+namespace quindar::testing {
+
+struct ExpectedBox {
+    QString textPart;  // a part of the box's text
+    int answer;        // kIdOk, kIdYes, kIdNo, kIdCancel
+};
+
+class ScriptedBoxes {
+public:
+    void Expect(const QString &textPart, int answer) { expected.push_back({textPart, answer}); }
+    int Present(const BoxRequest &request);
+
+    QStringList shown;       // "title: text" of every box, in order
+    QStringList unexpected;  // boxes no expectation matched
+    std::deque<ExpectedBox> expected;
+};
+
+class DesktopHarness {
+public:
+    // Starts the program with the command-line words.
+    explicit DesktopHarness(const std::vector<std::string> &words = {});
+    ~DesktopHarness();
+
+    Workbench &Bench() { return *workbench; }
+    MainFrame &Frame() { return *frame; }
+    DocumentArea &Client();
+    DocumentWindow *Current();
+    QString Folder() const { return home.path(); }
+    // Files the scripted dialogs return next.
+    QStringList nextOpenFiles;
+    QString nextSaveFile;
+    QStringList dialogTitles;
+
+    ScriptedBoxes boxes;
+    // What the program's run left unchecked: expected boxes that never came, and unexpected
+    // ones. Empty when the test went as scripted.
+    QString Leftovers() const;
+
+private:
+    QTemporaryDir home;
+    AppServices services;
+    std::unique_ptr<Workbench> workbench;
+    MainFrame *frame = nullptr;
+};
+
+// Types text into the current document's text pane, key by key.
+void TypeText(QWidget *widget, const QString &text);
+
+}  // namespace quindar::testing

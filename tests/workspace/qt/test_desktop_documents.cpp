@@ -1,0 +1,283 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Quindar developers
+// Documents in the desktop program: computing in the text pane, saving and reopening, the
+// window limit, numbering, the close questions, damaged files.
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QMdiSubWindow>
+#include <QPlainTextEdit>
+#include <QTest>
+
+#include "command_table.h"
+#include "desktop_harness.h"
+#include "document_area.h"
+#include "document_window.h"
+#include "main_frame.h"
+#include "math_editor_widget.h"
+#include "parser.h"
+
+using namespace quindar;
+using namespace quindar::testing;
+
+namespace {
+
+QString PaneText(DocumentWindow *document) {
+    return document->TextPane().toPlainText();
+}
+
+QString Sample() {
+    return QStringLiteral(QUINDAR_TEST_DATA_DIR "sample.qnd");
+}
+
+}  // namespace
+
+class DesktopDocuments : public QObject {
+    Q_OBJECT
+private slots:
+    void startsWithOneUntitledDocument();
+    void f4WritesTheAnswerBehindTheLine_data();
+    void f4WritesTheAnswerBehindTheLine();
+    void enterComputesAndBreaksTheLine();
+    void saveIsEnabledAfterTyping();
+    void savedDocumentReopensWithTextAndDeclarations();
+    void fiftyFirstDocumentIsRefused();
+    void numbersAreNeverReused();
+    void closingTheCurrentDocumentChoosesTheNext();
+    void closingAModifiedTextAsksAndCancelKeepsIt();
+    void closingWithOnlyANewVariableAsksAboutAttributes();
+    void openingTheSameFileTwiceIsRefused();
+    void missingAndDamagedDocumentsAreToldAndTheProgramGoesOn();
+    void missingCommandLineFileGivesAnEmptyDocument();
+    void comboBoxListsDocumentsAndActivatesThem();
+};
+
+void DesktopDocuments::startsWithOneUntitledDocument() {
+    DesktopHarness harness;
+    QCOMPARE(harness.Client().Count(), 1);
+    QCOMPARE(harness.Current()->Caption(), QStringLiteral("1 - MATH EDITOR"));
+    QCOMPARE(harness.Client().subWindowList().front()->windowTitle(),
+             QStringLiteral("1 - MATH EDITOR"));
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DesktopDocuments::f4WritesTheAnswerBehindTheLine_data() {
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("sum") << "2+3"
+                         << "2+3 = 5";
+    QTest::newRow("decimal") << "0.1+0.2"
+                             << "0.1+0.2 = 0.3";
+    QTest::newRow("old answer replaced") << "2*4 = 7"
+                                         << "2*4 = 8";
+    QTest::newRow("comment stays") << "1+1 // two"
+                                   << "1+1 = 2 // two";
+    QTest::newRow("library function") << "CIRCLEAREA[1]"
+                                      << "CIRCLEAREA[1] = 3.1415926535898";
+}
+
+void DesktopDocuments::f4WritesTheAnswerBehindTheLine() {
+    QFETCH(QString, typed);
+    QFETCH(QString, expected);
+    DesktopHarness harness;
+    MathEditorWidget &pane = harness.Current()->TextPane();
+    TypeText(&pane, typed);
+    QTest::keyClick(&pane, Qt::Key_F4);
+    QCOMPARE(pane.toPlainText(), expected);
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DesktopDocuments::enterComputesAndBreaksTheLine() {
+    DesktopHarness harness;
+    MathEditorWidget &pane = harness.Current()->TextPane();
+    TypeText(&pane, QStringLiteral("x = 2+3\nx*2\n"));
+    QCOMPARE(pane.toPlainText(), QStringLiteral("x = 2+3 = 5\nx*2 = 10\n"));
+    QCOMPARE(pane.CaretLineNumber(), 3);
+    harness.Frame().IdleAction();
+    QCOMPARE(harness.Frame().LineGadget()->text(), QStringLiteral("Line: 3"));
+}
+
+void DesktopDocuments::saveIsEnabledAfterTyping() {
+    DesktopHarness harness;
+    CommandRouter &router = harness.Bench().Router();
+    QVERIFY(!router.State(command::kFileSave).enabled);
+    TypeText(&harness.Current()->TextPane(), QStringLiteral("1"));
+    QVERIFY(router.State(command::kFileSave).enabled);
+    harness.Frame().IdleAction();
+    QVERIFY(router.Action(command::kFileSave)->isEnabled());
+}
+
+void DesktopDocuments::savedDocumentReopensWithTextAndDeclarations() {
+    DesktopHarness harness;
+    DocumentWindow *opened = harness.Client().OpenFile(Sample());
+    QVERIFY(opened != nullptr);
+    QCOMPARE(PaneText(opened), QStringLiteral("x = 5\nf[t] = t^2 + x\nf[2] = 9\n"));
+    QVERIFY(opened->Engine().is_variable("x"));
+    QVERIFY(opened->Engine().is_function("f"));
+    QCOMPARE(opened->Caption(), QStringLiteral("MATH EDITOR - ") + Sample().toUpper());
+
+    // Edit: a new variable and a new line, then Save As into the test's folder.
+    MathEditorWidget &pane = opened->TextPane();
+    pane.moveCursor(QTextCursor::End);
+    TypeText(&pane, QStringLiteral("y = f[3]"));
+    QTest::keyClick(&pane, Qt::Key_F4);
+    const QString target = harness.Folder() + QStringLiteral("/copy.qnd");
+    harness.nextSaveFile = target;
+    QVERIFY(harness.Bench().Router().Execute(command::kFileSaveAs));
+    QVERIFY(!opened->IsDirty());
+    QCOMPARE(opened->Caption(), QStringLiteral("MATH EDITOR - ") + target.toUpper());
+    const QString text = PaneText(opened);
+    QCOMPARE(text, QStringLiteral("x = 5\nf[t] = t^2 + x\nf[2] = 9\ny = f[3] = 14"));
+
+    // Reopened in a second program, the text and the declarations are the same.
+    DesktopHarness second;
+    DocumentWindow *again = second.Client().OpenFile(target);
+    QVERIFY(again != nullptr);
+    // The sections start on a line of their own, so a text without a final line break comes
+    // back with one.
+    QCOMPARE(PaneText(again), text + QLatin1Char('\n'));
+    QVERIFY(again->Engine().is_variable("y"));
+    QCOMPARE(again->Engine().get_var_value("y").real, 14.0);
+    QCOMPARE(QString::fromUtf8(again->Engine().get_func_value("f")), QStringLiteral("t^2+x"));
+    QVERIFY(!again->IsDirty());
+    QFile saved(target);
+    QVERIFY(saved.open(QIODevice::ReadOnly));
+    QVERIFY(saved.readAll().startsWith("x = 5\r\nf[t] = t^2 + x\r\n"));
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DesktopDocuments::fiftyFirstDocumentIsRefused() {
+    DesktopHarness harness;
+    for (int count = 1; count < kMaximumDocuments; ++count)
+        QVERIFY(harness.Client().NewDocument() != nullptr);
+    QCOMPARE(harness.Client().Count(), 50);
+    harness.boxes.Expect(QStringLiteral("You Have Reached The Math Editor Window Limit!"), kIdOk);
+    QVERIFY(harness.Client().NewDocument() == nullptr);
+    QCOMPARE(harness.boxes.shown.back(),
+             QStringLiteral(
+                 "Quindar Client Window Manager: You Have Reached The Math Editor Window Limit!"));
+    // Opening a file is refused the same way.
+    harness.boxes.Expect(QStringLiteral("You Have Reached The Math Editor Window Limit!"), kIdOk);
+    QVERIFY(harness.Client().OpenFile(Sample()) == nullptr);
+    QCOMPARE(harness.Client().Count(), 50);
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DesktopDocuments::numbersAreNeverReused() {
+    DesktopHarness harness;
+    DocumentWindow *second = harness.Client().NewDocument();
+    QCOMPARE(second->Caption(), QStringLiteral("2 - MATH EDITOR"));
+    QVERIFY(harness.Client().CloseDocument(second));
+    QCOMPARE(harness.Client().Count(), 1);
+    QCOMPARE(harness.Client().NewDocument()->Caption(), QStringLiteral("3 - MATH EDITOR"));
+}
+
+void DesktopDocuments::closingTheCurrentDocumentChoosesTheNext() {
+    DesktopHarness harness;
+    DocumentArea &client = harness.Client();
+    client.NewDocument();
+    client.NewDocument();
+    // Of 1, 2, 3 the middle one closes: the next one, 3, becomes current.
+    client.Activate(1);
+    QCOMPARE(client.Current()->Number(), 2);
+    QVERIFY(client.CloseDocument(client.Current()));
+    QTest::qWait(1);
+    QCOMPARE(client.Current()->Number(), 3);
+    // The last one closes: the one before it becomes current.
+    QVERIFY(client.CloseDocument(client.Current()));
+    QTest::qWait(1);
+    QCOMPARE(client.Current()->Number(), 1);
+}
+
+void DesktopDocuments::closingAModifiedTextAsksAndCancelKeepsIt() {
+    DesktopHarness harness;
+    DocumentWindow *document = harness.Current();
+    TypeText(&document->TextPane(), QStringLiteral("2+2"));
+    harness.boxes.Expect(QStringLiteral("The text in the Math Editor file has changed."),
+                         kIdCancel);
+    QVERIFY(!harness.Client().CloseDocument(document));
+    QCOMPARE(harness.Client().Count(), 1);
+    harness.boxes.Expect(QStringLiteral("Do you want to save the changes?"), kIdNo);
+    QVERIFY(harness.Client().CloseDocument(document));
+    QCOMPARE(harness.Client().Count(), 0);
+    QCOMPARE(harness.boxes.shown.front(),
+             QStringLiteral("Quindar: The text in the Math Editor file has changed.\n\nDo you want "
+                            "to save the changes?"));
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DesktopDocuments::closingWithOnlyANewVariableAsksAboutAttributes() {
+    DesktopHarness harness;
+    DocumentWindow *document = harness.Client().OpenFile(Sample());
+    QVERIFY(document != nullptr);
+    // A variable declared without touching the text: the engine's declarations changed.
+    document->Engine().eval_exp("z = 4", false, true);
+    QVERIFY(!document->TextPane().document()->isModified());
+    harness.boxes.Expect(
+        QStringLiteral("Attributes in the ' ") + Sample() + QStringLiteral(" ' file have changed!"),
+        kIdCancel);
+    QVERIFY(!harness.Client().CloseDocument(document));
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DesktopDocuments::openingTheSameFileTwiceIsRefused() {
+    DesktopHarness harness;
+    QVERIFY(harness.Client().OpenFile(Sample()) != nullptr);
+    harness.boxes.Expect(QStringLiteral("This File Is Already Open."), kIdOk);
+    // The same file in other capitals: refused before its existence is looked at.
+    const QString otherCase = Sample().left(Sample().size() - 10) + QStringLiteral("SAMPLE.QND");
+    QVERIFY(harness.Client().OpenFile(otherCase) == nullptr);
+    QCOMPARE(harness.Client().Count(), 2);
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DesktopDocuments::missingAndDamagedDocumentsAreToldAndTheProgramGoesOn() {
+    DesktopHarness harness;
+    const QString missing = harness.Folder() + QStringLiteral("/none.qnd");
+    harness.boxes.Expect(QStringLiteral("This File Can Not Be Found."), kIdOk);
+    QVERIFY(harness.Client().OpenFile(missing) == nullptr);
+
+    const QString damaged = QStringLiteral(QUINDAR_TEST_DATA_DIR "damaged.qnd");
+    harness.boxes.Expect(QStringLiteral("damaged.qnd"), kIdOk);
+    harness.boxes.Expect(QStringLiteral("Unable to read file"), kIdOk);
+    QVERIFY(harness.Client().OpenFile(damaged) == nullptr);
+    QCOMPARE(harness.Client().Count(), 1);
+
+    // The program goes on: the first document still computes.
+    MathEditorWidget &pane = harness.Current()->TextPane();
+    TypeText(&pane, QStringLiteral("6*7"));
+    QTest::keyClick(&pane, Qt::Key_F4);
+    QCOMPARE(pane.toPlainText(), QStringLiteral("6*7 = 42"));
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DesktopDocuments::missingCommandLineFileGivesAnEmptyDocument() {
+    QTemporaryDir folder;
+    const std::string missing = folder.path().toStdString() + "/gone file.qnd";
+    // The box shows during the start; the harness's script is not in place yet, so it counts
+    // as unexpected and is checked here by its text.
+    DesktopHarness harness({missing});
+    QCOMPARE(
+        harness.boxes.shown,
+        QStringList{QStringLiteral("Find File: The Command Line File \"%1\" Could Not Be Found!")
+                        .arg(QString::fromStdString(missing))});
+    QCOMPARE(harness.Client().Count(), 1);
+    QCOMPARE(harness.Current()->Caption(), QStringLiteral("1 - MATH EDITOR"));
+}
+
+void DesktopDocuments::comboBoxListsDocumentsAndActivatesThem() {
+    DesktopHarness harness;
+    harness.Client().OpenFile(Sample());
+    QComboBox *combo = harness.Frame().WindowCombo();
+    QVERIFY(combo->isEnabled());
+    QCOMPARE(combo->count(), 2);
+    QCOMPARE(combo->itemText(0), QStringLiteral("1 - MATH EDITOR"));
+    QCOMPARE(combo->itemText(1), QStringLiteral("SAMPLE.QND"));
+    QCOMPARE(combo->currentIndex(), 1);
+    harness.Client().Activate(0);
+    QCOMPARE(harness.Current()->Number(), 1);
+    QVERIFY(harness.Client().subWindowList().back()->isMinimized());
+}
+
+QTEST_MAIN(DesktopDocuments)
+#include "test_desktop_documents.moc"
