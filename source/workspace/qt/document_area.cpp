@@ -8,6 +8,7 @@
 #include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QMimeData>
 #include <QProcess>
 #include <QTimer>
@@ -77,6 +78,8 @@ QMdiSubWindow *DocumentArea::AddDocument(DocumentWindow *document) {
     window->setAttribute(Qt::WA_DeleteOnClose);
     window->setWindowTitle(document->Caption());
     window->setAccessibleName(document->Caption());
+    if (window->systemMenu() != nullptr)
+        window->systemMenu()->setAccessibleName(QStringLiteral("Document window menu"));
     window->installEventFilter(this);
     window->setProperty("documentKey", key);
     windows[key] = window;

@@ -239,6 +239,12 @@ void MainFrame::CurrentDocumentChanged() {
 }
 
 bool MainFrame::event(QEvent *event) {
+    if (event->type() == QEvent::Show) {
+        // The bar's own pop-up for menus that do not fit, made once the bar is laid out.
+        for (QMenu *menu : menuBar()->findChildren<QMenu *>(Qt::FindDirectChildrenOnly))
+            if (menu->accessibleName().isEmpty())
+                menu->setAccessibleName(QStringLiteral("More menus"));
+    }
     if (event->type() == QEvent::StatusTip) {
         hintLabel->setText(static_cast<QStatusTipEvent *>(event)->tip());
         return true;

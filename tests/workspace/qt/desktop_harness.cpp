@@ -57,6 +57,7 @@ DesktopHarness::DesktopHarness(const std::vector<std::string> &words) {
         return std::exchange(nextSaveFile, {});
     };
     frame = workbench->Start(words);
+    frame->resize(1280, 800);
     frame->show();
     QApplication::setActiveWindow(frame);
     if (Current() != nullptr) Current()->TextPane().setFocus();

@@ -33,6 +33,31 @@ public:
     std::deque<ExpectedBox> expected;
 };
 
+// The program's surroundings, recording what they were asked for.
+class RecordingServices : public AppServices {
+public:
+    bool PlaySound(std::string_view fileName) override {
+        sounds << QString::fromUtf8(fileName.data(), static_cast<qsizetype>(fileName.size()));
+        return true;
+    }
+    bool ShowHelpTopic(int topic) override {
+        helpTopics << topic;
+        return true;
+    }
+    bool ShowHelpPage(HelpPage page) override {
+        helpPages << static_cast<int>(page);
+        return true;
+    }
+    void ShowTipOfTheDay(QWidget *) override { ++tipsShown; }
+    void ShowAbout(QWidget *) override { ++aboutShown; }
+
+    QStringList sounds;
+    QList<int> helpTopics;
+    QList<int> helpPages;
+    int tipsShown = 0;
+    int aboutShown = 0;
+};
+
 class DesktopHarness {
 public:
     // Starts the program with the command-line words.
@@ -50,13 +75,13 @@ public:
     QStringList dialogTitles;
 
     ScriptedBoxes boxes;
+    RecordingServices services;
     // What the program's run left unchecked: expected boxes that never came, and unexpected
     // ones. Empty when the test went as scripted.
     QString Leftovers() const;
 
 private:
     QTemporaryDir home;
-    AppServices services;
     std::unique_ptr<Workbench> workbench;
     MainFrame *frame = nullptr;
 };

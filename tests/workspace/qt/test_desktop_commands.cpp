@@ -1,0 +1,314 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Quindar developers
+// The frame: menus and tool bar in both forms, every command's label, hint and handler, the
+// route that disables what nothing answers, the settings the toggles write, context help,
+// recent files and dropped files.
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QStatusBar>
+#include <QTest>
+#include <QToolBar>
+#include <QUrl>
+#include <set>
+
+#include "app_settings.h"
+#include "command_table.h"
+#include "desktop_harness.h"
+#include "document_area.h"
+#include "document_window.h"
+#include "main_frame.h"
+#include "math_editor_widget.h"
+#include "string_table.h"
+
+using namespace quindar;
+using namespace quindar::testing;
+
+namespace {
+
+QStringList VisibleMenus(MainFrame &frame) {
+    QStringList titles;
+    for (QAction *action : frame.menuBar()->actions())
+        if (action->isVisible()) titles << action->text();
+    return titles;
+}
+
+// The tool bar's visible items: command ids, 0 for a separator, 24410 for the combo box.
+QList<int> VisibleToolBar(MainFrame &frame) {
+    QList<int> items;
+    for (QAction *action : frame.ToolBar()->actions()) {
+        if (!action->isVisible()) continue;
+        if (action->isSeparator())
+            items << command::kSeparator;
+        else if (frame.ToolBar()->widgetForAction(action) == frame.WindowCombo())
+            items << command::kWindowCombo;
+        else
+            items << action->data().toInt();
+    }
+    return items;
+}
+
+QList<int> LongToolBar() {
+    QList<int> items;
+    for (const int item : tool_bar_layout()) items << item;
+    return items;
+}
+
+QString Sample() {
+    return QStringLiteral(QUINDAR_TEST_DATA_DIR "sample.qnd");
+}
+
+QString IniText(const QString &path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+// Commands that have no hint of their own.
+const std::set<int> kWithoutHint = {24391, 20632, 20634, 20635, 20636, 20637, 20638, 20639, 20640};
+
+}  // namespace
+
+class DesktopCommands : public QObject {
+    Q_OBJECT
+private slots:
+    void menusAndToolBarFollowTheDocuments();
+    void everyCommandHasLabelHintAndHandler();
+    void menuLabelsAndMnemonics_data();
+    void menuLabelsAndMnemonics();
+    void editCommandsNeedTheTextPane();
+    void hintsShowInTheStatusBar();
+    void togglesWriteTheSettingsFile();
+    void contextHelpShowsTheTopicInsteadOfActing();
+    void recentFilesAndDroppedFiles();
+    void examplesOpenFromTheExamplesFolder();
+    void everyWindowHasAnAccessibleName();
+};
+
+void DesktopCommands::menusAndToolBarFollowTheDocuments() {
+    DesktopHarness harness;
+    MainFrame &frame = harness.Frame();
+    const QStringList allMenus = {"&File",      "&Edit",  "&Search", "Se&tup",
+                                  "&Utilities", "&Graph", "&Window", "&Help"};
+    QCOMPARE(VisibleMenus(frame), allMenus);
+    QCOMPARE(VisibleToolBar(frame), LongToolBar());
+    QCOMPARE(VisibleToolBar(frame).count(command::kSeparator) > 0, true);
+    QVERIFY(frame.WindowCombo()->isEnabled());
+
+    QVERIFY(harness.Client().CloseDocument(harness.Current()));
+    QCOMPARE(VisibleMenus(frame), (QStringList{"&File", "&Help"}));
+    const QList<int> shortBar = {command::kFileNew,   command::kFileOpen,
+                                 command::kSeparator, command::kContextHelp,
+                                 command::kTutorials, command::kHelpContents};
+    QCOMPARE(VisibleToolBar(frame), shortBar);
+    QVERIFY(!frame.WindowCombo()->isEnabled());
+    QVERIFY(!frame.WindowCombo()->isVisibleTo(&frame));
+
+    harness.Bench().Router().Execute(command::kFileNew);
+    QCOMPARE(VisibleMenus(frame), allMenus);
+    QCOMPARE(harness.Current()->Caption(), QStringLiteral("2 - MATH EDITOR"));
+}
+
+void DesktopCommands::everyCommandHasLabelHintAndHandler() {
+    DesktopHarness harness;
+    harness.Current()->TextPane().setFocus();
+    QCOMPARE(QApplication::focusWidget(), &harness.Current()->TextPane());
+    QVERIFY2(
+        application_string_problems().empty(),
+        application_string_problems().empty() ? "" : application_string_problems().front().c_str());
+    for (const CommandInfo &command : command_table()) {
+        const QByteArray name = QByteArray::number(command.id);
+        QVERIFY2(command.label != nullptr && command.label[0] != '\0', name);
+        QAction *action = harness.Bench().Router().Action(command.id);
+        QVERIFY2(action != nullptr, name);
+        QCOMPARE(action->text(), QString::fromUtf8(command.label));
+        QCOMPARE(action->statusTip().isEmpty(), kWithoutHint.contains(command.id));
+        QCOMPARE(action->statusTip(), ui_string(command.id));
+        CommandState state;
+        QVERIFY2(harness.Bench().Router().Resolve(command.id, state) != nullptr, name);
+    }
+}
+
+void DesktopCommands::menuLabelsAndMnemonics_data() {
+    QTest::addColumn<int>("menu");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<int>("id");
+    QTest::newRow("Alt+F, S") << 0 << "S" << command::kFileSave;
+    QTest::newRow("Alt+F, N") << 0 << "N" << command::kFileNew;
+    QTest::newRow("Alt+F, A") << 0 << "A" << command::kFileSaveAs;
+    QTest::newRow("Alt+F, X") << 0 << "X" << command::kExit;
+    QTest::newRow("Alt+E, T") << 1 << "T" << command::kEditCut;
+    QTest::newRow("Alt+S, N") << 2 << "N" << command::kEditFindNext;
+    QTest::newRow("Alt+T, H") << 3 << "H" << command::kShowHints;
+    QTest::newRow("Alt+U, L") << 4 << "L" << command::kFunctionLibrary;
+    QTest::newRow("Alt+G, 2") << 5 << "2" << command::kSet2DPerspective;
+    QTest::newRow("Alt+W, L") << 6 << "L" << command::kCloseAll;
+    QTest::newRow("Alt+H, A") << 7 << "A" << command::kHelpAbout;
+}
+
+void DesktopCommands::menuLabelsAndMnemonics() {
+    QFETCH(int, menu);
+    QFETCH(QString, key);
+    QFETCH(int, id);
+    DesktopHarness harness;
+    QList<int> matches;
+    for (QAction *action : harness.Frame().Menu(menu)->actions())
+        if (QKeySequence::mnemonic(action->text()) == QKeySequence(QStringLiteral("Alt+") + key))
+            matches << action->data().toInt();
+    QCOMPARE(matches, QList<int>{id});
+}
+
+void DesktopCommands::editCommandsNeedTheTextPane() {
+    DesktopHarness harness;
+    CommandRouter &router = harness.Bench().Router();
+    QVERIFY(router.State(command::kEditCut).enabled);
+    // With the focus in a widget of another kind nothing on the route answers Cut.
+    auto *other = new QLineEdit(harness.Frame().statusBar());
+    other->setAccessibleName(QStringLiteral("other"));
+    harness.Frame().statusBar()->addWidget(other);
+    other->show();
+    other->setFocus();
+    QCOMPARE(QApplication::focusWidget(), other);
+    QVERIFY(!router.State(command::kEditCut).enabled);
+    QVERIFY(!router.State(command::kEditFind).enabled);
+    // The document's own commands still reach it.
+    QVERIFY(router.State(command::kFileSaveAs).enabled);
+    harness.Frame().IdleAction();
+    QVERIFY(!router.Action(command::kEditCut)->isEnabled());
+}
+
+void DesktopCommands::hintsShowInTheStatusBar() {
+    DesktopHarness harness;
+    QAction *save = harness.Bench().Router().Action(command::kFileSave);
+    save->showStatusText(harness.Frame().menuBar());
+    QCOMPARE(harness.Frame().HintLabel()->text(),
+             QStringLiteral("Save the active Quindar document to a file"));
+    harness.Frame().IdleAction();
+    QCOMPARE(harness.Frame().LineGadget()->text(), QStringLiteral("Line: 1"));
+}
+
+void DesktopCommands::togglesWriteTheSettingsFile() {
+    DesktopHarness harness;
+    CommandRouter &router = harness.Bench().Router();
+    const QString ini = harness.Folder() + QStringLiteral("/config/Quindar/Quindar.ini");
+    QVERIFY(router.State(command::kShowToolBar).checked);
+    QVERIFY(router.Execute(command::kShowToolBar));
+    QVERIFY(!router.State(command::kShowToolBar).checked);
+    QVERIFY(IniText(ini).contains(QStringLiteral("ToolBar=0")));
+    QVERIFY(router.State(command::kShowHints).checked);
+    QVERIFY(router.Execute(command::kShowHints));
+    QCOMPARE(harness.Frame().hintMode, 1);
+    QVERIFY(IniText(ini).contains(QStringLiteral("Hints=1")));
+    QVERIFY(!router.State(command::kSound).checked);
+    QVERIFY(router.Execute(command::kSound));
+    QVERIFY(router.State(command::kSound).checked);
+    QVERIFY(IniText(ini).contains(QStringLiteral("Sound=1")));
+    // Switching sound on is silent; the next command clicks.
+    QVERIFY(harness.services.sounds.isEmpty());
+    QVERIFY(router.Execute(command::kShowStatusBar));
+    QCOMPARE(harness.services.sounds, QStringList{QStringLiteral("QClick.wav")});
+    QVERIFY(!harness.Frame().statusBar()->isVisibleTo(&harness.Frame()));
+}
+
+void DesktopCommands::contextHelpShowsTheTopicInsteadOfActing() {
+    DesktopHarness harness;
+    CommandRouter &router = harness.Bench().Router();
+    QVERIFY(router.Execute(command::kContextHelp));
+    QVERIFY(harness.Bench().contextHelpMode);
+    QVERIFY(router.Execute(command::kFileNew));
+    QCOMPARE(harness.services.helpTopics, QList<int>{19410});
+    QCOMPARE(harness.Client().Count(), 1);
+    QVERIFY(!harness.Bench().contextHelpMode);
+    QVERIFY(router.Execute(command::kFileNew));
+    QCOMPARE(harness.Client().Count(), 2);
+}
+
+void DesktopCommands::recentFilesAndDroppedFiles() {
+    DesktopHarness harness;
+    QTemporaryDir folder;
+    const QString copy = folder.path() + QStringLiteral("/dropped.qnd");
+    QVERIFY(QFile::copy(Sample(), copy));
+
+    // A drop on the documents' background opens the file.
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(copy)});
+    QWidget *viewport = harness.Client().viewport();
+    QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(viewport, &enter);
+    QVERIFY(enter.isAccepted());
+    QApplication::sendEvent(viewport, &drop);
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+    QCOMPARE(harness.Client().Count(), 2);
+    QCOMPARE(harness.Current()->Path(), copy.toStdString());
+
+    const AppSettings recent(
+        (harness.Folder() + QStringLiteral("/config/Quindar/Quindar.ini")).toStdString());
+    QCOMPARE(recent.RecentFiles().front(), copy.toStdString());
+    QMenu *file = harness.Frame().Menu(0);
+    emit file->aboutToShow();
+    bool listed = false;
+    for (QAction *action : file->actions())
+        if (action->text() == QStringLiteral("&1 ") + copy) listed = true;
+    QVERIFY(listed);
+    // Choosing it again is refused: it is open.
+    harness.boxes.Expect(QStringLiteral("This File Is Already Open."), kIdOk);
+    harness.Bench().OpenFiles({copy});
+    QCOMPARE(harness.Client().Count(), 2);
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DesktopCommands::examplesOpenFromTheExamplesFolder() {
+    DesktopHarness harness;
+    harness.nextOpenFiles = {Sample()};
+    QVERIFY(harness.Bench().Router().Execute(command::kExamples));
+    QCOMPARE(harness.dialogTitles, QStringList{QStringLiteral("Open Quindar Example File")});
+    QCOMPARE(harness.Client().Count(), 2);
+    // File > Open takes any number of files.
+    QTemporaryDir folder;
+    const QString a = folder.path() + QStringLiteral("/a.qnd");
+    const QString b = folder.path() + QStringLiteral("/b.qnd");
+    QVERIFY(QFile::copy(Sample(), a));
+    QVERIFY(QFile::copy(Sample(), b));
+    harness.nextOpenFiles = {a, b};
+    QVERIFY(harness.Bench().Router().Execute(command::kFileOpen));
+    QCOMPARE(harness.dialogTitles.back(), QStringLiteral("Open Quindar File"));
+    QCOMPARE(harness.Client().Count(), 4);
+}
+
+void DesktopCommands::everyWindowHasAnAccessibleName() {
+    DesktopHarness harness;
+    MainFrame &frame = harness.Frame();
+    QList<QWidget *> widgets = {&frame,
+                                frame.ToolBar(),
+                                frame.WindowCombo(),
+                                frame.statusBar(),
+                                &harness.Client(),
+                                harness.Current(),
+                                &harness.Current()->TextPane()};
+    for (QMenu *menu : frame.findChildren<QMenu *>()) widgets << menu;
+    for (QLabel *label : frame.statusBar()->findChildren<QLabel *>()) widgets << label;
+    for (QMdiSubWindow *window : harness.Client().subWindowList()) widgets << window;
+    for (QAction *action : frame.ToolBar()->actions())
+        if (!action->isSeparator()) widgets << frame.ToolBar()->widgetForAction(action);
+    QStringList unnamed;
+    for (QWidget *widget : widgets)
+        if (widget->accessibleName().isEmpty())
+            unnamed << QString::fromLatin1(widget->metaObject()->className()) + QLatin1Char(' ') +
+                           widget->objectName() + QLatin1Char('/') +
+                           (widget->parentWidget() != nullptr
+                                ? widget->parentWidget()->metaObject()->className()
+                                : "");
+    QVERIFY2(unnamed.isEmpty(), qPrintable(unnamed.join(QStringLiteral(", "))));
+    QCOMPARE(harness.Current()->TextPane().accessibleName(), QStringLiteral("Math Editor"));
+    QCOMPARE(frame.accessibleName(), QStringLiteral("Quindar"));
+    QCOMPARE(harness.Current()->accessibleName(), QStringLiteral("1 - MATH EDITOR"));
+}
+
+QTEST_MAIN(DesktopCommands)
+#include "test_desktop_commands.moc"
