@@ -7,6 +7,7 @@
 
 #include "command_table.h"
 #include "document_file.h"
+#include "document_font.h"
 #include "document_roster.h"
 #include "library_files.h"
 #include "math_editor_widget.h"
@@ -97,6 +98,7 @@ DocumentWindow::DocumentWindow(Workbench &owner, int documentNumber, QWidget *pa
     editor.DispMessageBox = boxes;
     textPane->openFiles = [this](const QStringList &paths) { workbench.OpenFiles(paths); };
 
+    textPane->setFont(qfont_of(content.font));
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(textPane);
@@ -123,6 +125,7 @@ bool DocumentWindow::Load(const std::string &file) {
     });
     if (!reader.Read(file.c_str())) return false;
     path = file;
+    textPane->setFont(qfont_of(content.font));
     textPane->SetDocumentText(content.text);
     // What loading declared is what the file holds.
     parser->vars_saved = true;

@@ -22,6 +22,7 @@
 #include "document_close_rules.h"
 #include "document_roster.h"
 #include "document_window.h"
+#include "lock_keys.h"
 #include "math_editor_widget.h"
 #include "message_boxes.h"
 #include "workbench.h"
@@ -73,7 +74,9 @@ QAction *MainFrame::MakeAction(int id) {
     const QString hint = ui_string(id);
     action->setStatusTip(hint);
     char buffer[128];
-    action->setToolTip(QString::fromUtf8(command_plain_label(*command, buffer, sizeof buffer)));
+    const QString plain = QString::fromUtf8(command_plain_label(*command, buffer, sizeof buffer));
+    action->setToolTip(plain);
+    action->setIconText(plain);
     if (command->hasIcon && QFile::exists(IconPath(id))) action->setIcon(QIcon(IconPath(id)));
     workbench.Router().RegisterAction(id, action);
     return action;
@@ -214,9 +217,18 @@ void MainFrame::IdleAction() {
     lineGadget->setText(document != nullptr
                             ? QStringLiteral("Line: %1").arg(document->TextPane().CaretLineNumber())
                             : QString());
-    // Overtype follows the text pane's Insert toggle; the other lock states are not known to Qt.
+    // The lock keys are asked of the X server at most a few times a second.
+    if (!lockClock.isValid() || lockClock.elapsed() > 200) {
+        lockClock.start();
+        const LockKeys keys = read_lock_keys();
+        const bool states[] = {keys.capsLock, keys.numLock, keys.scrollLock};
+        for (std::size_t at = 0; at < std::size(states); ++at)
+            lockIndicators[at]->setText(states[at] ? QString::fromLatin1(kLockNames[at])
+                                                   : QString());
+    }
+    // Overtype follows the text pane's Insert toggle.
     const bool overtype = document != nullptr && document->TextPane().overwriteMode();
-    lockIndicators.back()->setText(overtype ? QStringLiteral("OVR") : QString());
+    lockIndicators.back()->setText(overtype ? QString::fromLatin1(kLockNames[3]) : QString());
 }
 
 void MainFrame::DocumentsChanged() {

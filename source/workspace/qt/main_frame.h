@@ -7,6 +7,7 @@
 // caret's line, the hints and the lock indicators. It answers the frame's commands: Exit,
 // Tool Bar, Status Bar, Hints.
 
+#include <QElapsedTimer>
 #include <QMainWindow>
 #include <vector>
 
@@ -77,6 +78,7 @@ private:
     QAction *recentFilesMark = nullptr;
     std::vector<QAction *> recentFileActions;
     bool toolBarShown = true;
+    QElapsedTimer lockClock;
 };
 
 }  // namespace quindar

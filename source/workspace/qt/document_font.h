@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Quindar developers
+#pragma once
+
+// A document's font record as a QFont: the face as requested (fontconfig draws a missing one
+// with its metric twin), a negative height as the character height in pixels, a positive one
+// as the cell height, and the weight on the same 100 to 900 scale.
+
+#include <QFont>
+
+#include "document_parts.h"
+
+namespace quindar {
+
+QFont qfont_of(const DocumentFont &font);
+
+}  // namespace quindar
