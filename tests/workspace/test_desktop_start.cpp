@@ -10,6 +10,7 @@
 #include "desktop_folders.h"
 #include "start_request.h"
 #include "temp_folder.h"
+#include "tutorial_rules.h"
 
 namespace quindar {
 namespace {
@@ -94,6 +95,52 @@ TEST(StartRequest, FirstPlainWordAndUnregister) {
         EXPECT_EQ(request.file, entry.file);
         EXPECT_EQ(request.unregister, entry.unregister);
     }
+}
+
+}  // namespace
+}  // namespace quindar
+
+namespace quindar {
+namespace {
+
+struct PlanCase {
+    bool folder;
+    int count;
+    bool offerWanted;
+    TutorialStep step;
+    bool offer;
+};
+
+TEST(TutorialRules, WhatTheCommandDoes) {
+    const PlanCase cases[] = {
+        {false, 0, true, TutorialStep::NoFolder, true},
+        {false, 0, false, TutorialStep::NoFolder, false},
+        {true, 0, true, TutorialStep::NoFiles, true},
+        {true, 3, true, TutorialStep::ChooseFile, true},
+        {true, 7, true, TutorialStep::ChooseFile, true},
+        {true, 8, true, TutorialStep::ChooseFile, false},
+        {true, 3, false, TutorialStep::ChooseFile, false},
+    };
+    for (const PlanCase &entry : cases) {
+        const TutorialPlan plan = plan_tutorials(entry.folder, entry.count, entry.offerWanted);
+        EXPECT_EQ(plan.step, entry.step) << entry.folder << entry.count << entry.offerWanted;
+        EXPECT_EQ(plan.offerDownload, entry.offer)
+            << entry.folder << entry.count << entry.offerWanted;
+    }
+}
+
+TEST(TutorialRules, PlayerSearchOrder) {
+    bool found = true;
+    const auto none = [](const std::string &) { return false; };
+    EXPECT_EQ(choose_media_player("/opt/player", none, found), "/opt/player");
+    EXPECT_FALSE(found);
+    EXPECT_EQ(choose_media_player("", none, found), "");
+    EXPECT_FALSE(found);
+    const auto mpvAndTotem = [](const std::string &path) {
+        return path == "/usr/bin/mpv" || path == "/usr/bin/totem";
+    };
+    EXPECT_EQ(choose_media_player("", mpvAndTotem, found), "/usr/bin/mpv");
+    EXPECT_TRUE(found);
 }
 
 }  // namespace

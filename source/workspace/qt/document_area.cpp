@@ -10,7 +10,6 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMimeData>
-#include <QProcess>
 #include <QTimer>
 #include <QUrl>
 
@@ -18,6 +17,7 @@
 #include "document_window.h"
 #include "main_frame.h"
 #include "math_editor_widget.h"
+#include "tutorial_launcher.h"
 #include "workbench.h"
 
 namespace quindar {
@@ -26,23 +26,18 @@ namespace {
 constexpr int kMsgAlreadyOpen = 31745;
 constexpr int kMsgNotFound = 31743;
 constexpr int kTitleOpenFile = 31742;
-constexpr int kMsgNoTutorialsFolder = 24405;
-constexpr int kMsgNoTutorials = 24406;
-constexpr int kTitleTutorial = 24402;
-constexpr int kMsgPlayerFailed = 24404;
 
 struct FileDialogRecord {
     const char *title;
     const char *filter;
 };
 
-// The open dialog, the examples and the tutorials.
+// The open dialog and the examples.
 constexpr FileDialogRecord kOpenDialogs[] = {
     {"Open Quindar File",
      "Quindar Files(*.qnd);;2-D Graph Files(*.g2d);;3-D Graph Files(*.g3d);;Text "
      "Files(*.txt);;All Files (*)"},
     {"Open Quindar Example File", "Quindar Files(*.qnd)"},
-    {"Open Quindar Tutorial File", "Quindar Tutorials(*.wmv)"},
 };
 
 constexpr const char *kLoadingText = "Loading Quindar File, Please Wait!";
@@ -197,6 +192,16 @@ bool DocumentArea::CloseDocument(DocumentWindow *document) {
 }
 
 bool DocumentArea::CloseAllDocuments() {
+    // Every document is asked first; one refusal keeps them all, and asks them all again the
+    // next time.
+    for (int index = 0; index < roster.Count(); ++index) {
+        DocumentWindow *document = At(index);
+        if (document != nullptr && !document->CanClose()) {
+            for (int other = 0; other < roster.Count(); ++other)
+                if (At(other) != nullptr) At(other)->ForgetCloseAnswer();
+            return false;
+        }
+    }
     for (int index = roster.Count() - 1; index >= 0; --index) {
         const auto found = windows.find(roster.KeyAt(index));
         if (found != windows.end() && found->second != nullptr && !found->second->close())
@@ -253,27 +258,6 @@ void DocumentArea::ChooseAndOpen(int titleIndex) {
     OpenFiles(chosen, titleIndex != 0);
 }
 
-void DocumentArea::PlayTutorial() {
-    const QDir folder(QString::fromStdString(workbench.Folders().tutorialsDir));
-    if (!folder.exists()) {
-        workbench.Messages().Show(this, kMsgNoTutorialsFolder, kTitleTutorial, kBoxWarning);
-        return;
-    }
-    const QStringList files = folder.entryList({QStringLiteral("*.wmv")}, QDir::Files);
-    if (files.isEmpty()) {
-        workbench.Messages().Show(this, kMsgNoTutorials, kTitleTutorial, kBoxWarning);
-        return;
-    }
-    const QStringList chosen = workbench.chooseOpenFiles(
-        this, QString::fromLatin1(kOpenDialogs[2].title), folder.absolutePath(),
-        QString::fromLatin1(kOpenDialogs[2].filter));
-    if (chosen.isEmpty()) return;
-    QString player = QString::fromStdString(workbench.Settings().MediaPlayerPath());
-    if (player.isEmpty()) player = QStringLiteral("xdg-open");
-    if (!QProcess::startDetached(player, {chosen.front()}))
-        workbench.Messages().Show(this, kMsgPlayerFailed, kTitleTutorial, kBoxWarning);
-}
-
 bool DocumentArea::CommandEnabler(int id, CommandState &state) {
     const bool haveDocument = Current() != nullptr;
     switch (id) {
@@ -321,7 +305,7 @@ bool DocumentArea::CommandHandler(int id) {
             ChooseAndOpen(1);
             return true;
         case command::kTutorials:
-            PlayTutorial();
+            play_tutorial(workbench, this);
             return true;
         case command::kFileSave:
             if (Current() != nullptr) Current()->Save();

@@ -63,7 +63,6 @@ private:
     QMdiSubWindow *AddDocument(DocumentWindow *document);
     void Removed(int key);
     void ChooseAndOpen(int titleIndex);
-    void PlayTutorial();
 
     Workbench &workbench;
     DocumentRoster roster;

@@ -49,8 +49,10 @@ public:
     // Save: to its file, or through Save As when it has none. True when saved.
     bool Save();
     bool SaveAs();
-    // Asks the close questions; true when the document may close.
+    // Asks the close questions; true when the document may close. The answer holds for the
+    // next close until ForgetCloseAnswer, which a refused close of several documents calls.
     bool CanClose();
+    void ForgetCloseAnswer() { closeChecked = false; }
 
     bool CommandEnabler(int id, CommandState &state) override;
     bool CommandHandler(int id) override;

@@ -4,10 +4,13 @@
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
+#include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QKeyEvent>
+#include <QProcess>
 
 #include "command_table.h"
 #include "document_area.h"
@@ -68,6 +71,9 @@ Workbench::Workbench(AppServices &appServices, DesktopFolders desktopFolders)
     InitIconResources();
     chooseOpenFiles = DialogOpenFiles;
     chooseSaveFile = DialogSaveFile;
+    startProcess = [](const QString &program, const QStringList &arguments) {
+        return QProcess::startDetached(program, arguments);
+    };
     messages.SetDefaultParent([this]() -> QWidget * { return frame.get(); });
     router.playClick = [this] { PlaySound("QClick.wav"); };
     router.contextHelpMode = [this] { return contextHelpMode; };
@@ -83,10 +89,21 @@ Workbench::Workbench(AppServices &appServices, DesktopFolders desktopFolders)
     flatButtons = settings.FlatButtons();
     calculationMethod = settings.CalculationMethod();
     useSquareBrackets = settings.UseSquareFunctionBrackets();
+    for (int n = 1; n <= settings::kCustomColorCount; ++n) {
+        const TColor color = settings.CustomColor(n);
+        QColorDialog::setCustomColor(n - 1, QColor(color.Red(), color.Green(), color.Blue()));
+    }
 }
 
 Workbench::~Workbench() {
     closing = true;
+    const AppSettings settings = Settings();
+    for (int n = 1; n <= settings::kCustomColorCount; ++n) {
+        const QColor color = QColorDialog::customColor(n - 1);
+        settings.SetCustomColor(n, TColor(static_cast<std::uint8_t>(color.red()),
+                                          static_cast<std::uint8_t>(color.green()),
+                                          static_cast<std::uint8_t>(color.blue())));
+    }
     frame.reset();
 }
 
@@ -111,6 +128,7 @@ MainFrame *Workbench::Start(const std::vector<std::string> &words) {
         services.RegisterFileTypes(QCoreApplication::applicationFilePath());
 
     services.SplashMessage(QStringLiteral("Setting Up Client Window"), 0);
+    qApp->installEventFilter(this);
     frame = std::make_unique<MainFrame>(*this);
     router.SetFixedTargets({frame.get(), frame->Client(), this});
     connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
@@ -175,6 +193,26 @@ bool Workbench::RunDocumentTool(DocumentWindow &document, int id) {
 
 bool Workbench::RunClientTool(int id) {
     return clientTools ? clientTools(id) : true;
+}
+
+bool Workbench::eventFilter(QObject *watched, QEvent *event) {
+    if (event->type() == QEvent::KeyPress) {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        if (key->key() == Qt::Key_F1 && (key->modifiers() & Qt::ShiftModifier)) {
+            router.Execute(command::kContextHelp);
+            return true;
+        }
+        if (key->key() == Qt::Key_F1) {
+            services.ShowHelpPage(HelpPage::Contents);
+            return true;
+        }
+        if (key->key() == Qt::Key_Escape && contextHelpMode) {
+            contextHelpMode = false;
+            QGuiApplication::restoreOverrideCursor();
+            return true;
+        }
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void Workbench::ShowContextHelp(int id) {

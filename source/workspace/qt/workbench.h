@@ -20,6 +20,7 @@
 #include "desktop_folders.h"
 #include "message_boxes.h"
 
+class QDialog;
 class QWidget;
 
 namespace quindar {
@@ -70,6 +71,10 @@ public:
                                               const QString &suggested, const QString &filter)>;
     OpenChooser chooseOpenFiles;
     SaveChooser chooseSaveFile;
+    // Starting another program, and running a modal dialog of the program's own; tests put
+    // theirs in place.
+    std::function<bool(const QString &program, const QStringList &arguments)> startProcess;
+    std::function<void(QDialog &dialog)> runDialog;
     QString ChooseSaveFile(QWidget *parent, const QString &current);
 
     // Opens files dropped, chosen from the recent files, or handed over by a later start.
@@ -86,6 +91,10 @@ public:
 
     bool CommandEnabler(int id, CommandState &state) override;
     bool CommandHandler(int id) override;
+
+protected:
+    // F1 shows the help contents, Shift+F1 starts context help, Escape leaves it.
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void RemoveStaleTemporaryFiles();

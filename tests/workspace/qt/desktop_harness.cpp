@@ -3,6 +3,7 @@
 #include "desktop_harness.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
 #include <QFile>
 #include <QTest>
@@ -26,7 +27,8 @@ int ScriptedBoxes::Present(const BoxRequest &request) {
     return box_escape_result(box_style(request.flags).buttons);
 }
 
-DesktopHarness::DesktopHarness(const std::vector<std::string> &words) {
+DesktopHarness::DesktopHarness(const std::vector<std::string> &words,
+                               const std::function<void(DesktopFolders &)> &adjust) {
     const std::string root = home.path().toStdString() + "/";
     QDir().mkpath(home.path() + QStringLiteral("/config/Quindar"));
     QFile ini(home.path() + QStringLiteral("/config/Quindar/Quindar.ini"));
@@ -41,8 +43,9 @@ DesktopHarness::DesktopHarness(const std::vector<std::string> &words) {
         if (key == "XDG_DATA_HOME") return data.c_str();
         return nullptr;
     };
-    const DesktopFolders folders =
+    DesktopFolders folders =
         find_desktop_folders(root + "program/", QUINDAR_SOURCE_DIR, environment);
+    if (adjust) adjust(folders);
     workbench = std::make_unique<Workbench>(services, folders);
     workbench->Messages().SetPresenter(
         [this](const BoxRequest &request) { return boxes.Present(request); });
@@ -56,6 +59,11 @@ DesktopHarness::DesktopHarness(const std::vector<std::string> &words) {
         dialogTitles << title;
         return std::exchange(nextSaveFile, {});
     };
+    workbench->startProcess = [this](const QString &program, const QStringList &arguments) {
+        started << (QStringList{program} + arguments).join(QLatin1Char(' '));
+        return startSucceeds;
+    };
+    workbench->runDialog = [this](QDialog &dialog) { dialogsRun << dialog.windowTitle(); };
     frame = workbench->Start(words);
     frame->resize(1280, 800);
     frame->show();

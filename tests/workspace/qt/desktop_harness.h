@@ -9,6 +9,7 @@
 #include <QStringList>
 #include <QTemporaryDir>
 #include <deque>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -60,8 +61,9 @@ public:
 
 class DesktopHarness {
 public:
-    // Starts the program with the command-line words.
-    explicit DesktopHarness(const std::vector<std::string> &words = {});
+    // Starts the program with the command-line words; adjust may change its folders first.
+    explicit DesktopHarness(const std::vector<std::string> &words = {},
+                            const std::function<void(DesktopFolders &)> &adjust = {});
     ~DesktopHarness();
 
     Workbench &Bench() { return *workbench; }
@@ -73,6 +75,10 @@ public:
     QStringList nextOpenFiles;
     QString nextSaveFile;
     QStringList dialogTitles;
+    // Programs started, as "program argument...", and dialogs of the program's own that ran.
+    QStringList started;
+    QStringList dialogsRun;
+    bool startSucceeds = true;
 
     ScriptedBoxes boxes;
     RecordingServices services;

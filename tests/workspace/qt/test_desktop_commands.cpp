@@ -18,6 +18,7 @@
 #include <QUrl>
 #include <set>
 
+#include "app_services.h"
 #include "app_settings.h"
 #include "command_table.h"
 #include "desktop_harness.h"
@@ -88,6 +89,10 @@ private slots:
     void recentFilesAndDroppedFiles();
     void examplesOpenFromTheExamplesFolder();
     void everyWindowHasAnAccessibleName();
+    void tutorialsWithoutFolderOrFiles();
+    void tutorialsPlayInThePlayerFound();
+    void functionKeysForHelp();
+    void exitAsksEveryDocumentBeforeClosingAny();
 };
 
 void DesktopCommands::menusAndToolBarFollowTheDocuments() {
@@ -308,6 +313,82 @@ void DesktopCommands::everyWindowHasAnAccessibleName() {
     QCOMPARE(harness.Current()->TextPane().accessibleName(), QStringLiteral("Math Editor"));
     QCOMPARE(frame.accessibleName(), QStringLiteral("Quindar"));
     QCOMPARE(harness.Current()->accessibleName(), QStringLiteral("1 - MATH EDITOR"));
+}
+
+void DesktopCommands::tutorialsWithoutFolderOrFiles() {
+    QTemporaryDir folder;
+    const std::string tutorials = folder.path().toStdString() + "/Tutorials/";
+    DesktopHarness harness({}, [&](DesktopFolders &folders) { folders.tutorialsDir = tutorials; });
+    harness.boxes.Expect(QStringLiteral("The tutorials directory could not be found"), kIdOk);
+    QVERIFY(harness.Bench().Router().Execute(command::kTutorials));
+    QCOMPARE(harness.dialogsRun, QStringList{QStringLiteral("Download Tutorial File Installer")});
+    QVERIFY(harness.dialogTitles.isEmpty());
+
+    QVERIFY(QDir().mkpath(QString::fromStdString(tutorials)));
+    harness.boxes.Expect(QStringLiteral("There where no tutorial files found"), kIdOk);
+    QVERIFY(harness.Bench().Router().Execute(command::kTutorials));
+    QCOMPARE(harness.dialogsRun.size(), 2);
+    QVERIFY(harness.started.isEmpty());
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DesktopCommands::tutorialsPlayInThePlayerFound() {
+    QTemporaryDir folder;
+    const QString tutorials = folder.path() + QStringLiteral("/Tutorials/");
+    QVERIFY(QDir().mkpath(tutorials));
+    for (int n = 0; n < 8; ++n) {
+        QFile file(tutorials + QStringLiteral("t%1.wmv").arg(n));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+    DesktopHarness harness(
+        {}, [&](DesktopFolders &folders) { folders.tutorialsDir = tutorials.toStdString(); });
+    const QString ini = harness.Folder() + QStringLiteral("/config/Quindar/Quindar.ini");
+    AppSettings(ini.toStdString()).Write(settings::kMediaPlayerPath, "/opt/player");
+    harness.nextOpenFiles = {tutorials + QStringLiteral("t1.wmv")};
+    QVERIFY(harness.Bench().Router().Execute(command::kTutorials));
+    QVERIFY(harness.dialogsRun.isEmpty());
+    QCOMPARE(harness.dialogTitles, QStringList{QStringLiteral("Open Quindar Tutorial File")});
+    QCOMPARE(harness.started,
+             QStringList{QStringLiteral("/opt/player ") + tutorials + QStringLiteral("t1.wmv")});
+
+    // A player that cannot start: 24404, then the search, which the user refuses.
+    harness.startSucceeds = false;
+    harness.nextOpenFiles = {tutorials + QStringLiteral("t2.wmv")};
+    harness.boxes.Expect(
+        QStringLiteral("The media player you selected could not open the tutorial"), kIdOk);
+    harness.boxes.Expect(QStringLiteral("Would you like to find a compatible Media Player"), kIdNo);
+    QVERIFY(harness.Bench().Router().Execute(command::kTutorials));
+    QCOMPARE(harness.started.size(), 2);
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DesktopCommands::functionKeysForHelp() {
+    DesktopHarness harness;
+    QWidget *pane = &harness.Current()->TextPane();
+    QTest::keyClick(pane, Qt::Key_F1);
+    QCOMPARE(harness.services.helpPages, QList<int>{static_cast<int>(HelpPage::Contents)});
+    QTest::keyClick(pane, Qt::Key_F1, Qt::ShiftModifier);
+    QVERIFY(harness.Bench().contextHelpMode);
+    QTest::keyClick(pane, Qt::Key_Escape);
+    QVERIFY(!harness.Bench().contextHelpMode);
+    QVERIFY(harness.services.helpTopics.isEmpty());
+}
+
+void DesktopCommands::exitAsksEveryDocumentBeforeClosingAny() {
+    DesktopHarness harness;
+    TypeText(&harness.Current()->TextPane(), QStringLiteral("1+1"));
+    harness.Client().NewDocument();
+    TypeText(&harness.Current()->TextPane(), QStringLiteral("2+2"));
+    harness.boxes.Expect(QStringLiteral("has changed"), kIdNo);
+    harness.boxes.Expect(QStringLiteral("has changed"), kIdCancel);
+    QVERIFY(!harness.Frame().close());
+    QCOMPARE(harness.Client().Count(), 2);
+    // Both are asked again the next time.
+    harness.boxes.Expect(QStringLiteral("has changed"), kIdNo);
+    harness.boxes.Expect(QStringLiteral("has changed"), kIdNo);
+    QVERIFY(harness.Frame().close());
+    QCOMPARE(harness.Client().Count(), 0);
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
 QTEST_MAIN(DesktopCommands)
