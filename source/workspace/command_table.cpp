@@ -105,6 +105,10 @@ constexpr int kHelpMenu[] = {
 constexpr int kMarginsMenu[] = {kIncreaseMargins, kDecreaseMargins, kSetDefaultMargins,
                                 kSaveAsDefaultMargins};
 
+constexpr int kTextPaneMenu[] = {kEditUndo,        kSeparator,  kEditCut,        kEditCopy,
+                                 kEditPaste,       kEditDelete, kSeparator,      kVariablesManager,
+                                 kFunctionManager, kSeparator,  kShowGraphWindow};
+
 constexpr MenuSpec kMenuBar[] = {
     {"&File", false, kFileMenu},          {"&Edit", true, kEditMenu},
     {"&Search", true, kSearchMenu},       {"Se&tup", true, kSetupMenu},
@@ -161,6 +165,9 @@ std::span<const MenuSpec> submenus() {
 }
 std::span<const int> tool_bar_layout() {
     return kToolBar;
+}
+std::span<const int> text_pane_menu() {
+    return kTextPaneMenu;
 }
 
 bool in_short_tool_bar(int id) {

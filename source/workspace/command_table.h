@@ -86,6 +86,9 @@ std::span<const MenuSpec> menu_bar();
 // The pop-up menus inside the bar's menus.
 std::span<const MenuSpec> submenus();
 
+// The pop-up menu of the text pane.
+std::span<const int> text_pane_menu();
+
 // The tool bar, left to right, with separators and the window combo box.
 std::span<const int> tool_bar_layout();
 // Whether an item of the tool bar stays while no document is open.

@@ -104,6 +104,10 @@ TEST(CommandTable, MenuBarAndToolBar) {
     for (const int item : tool_bar_layout())
         if (in_short_tool_bar(item)) shortBar.push_back(item);
     EXPECT_EQ(shortBar, (std::vector<int>{24331, 24332, 24393, 24395, 24386}));
+    std::vector<int> popup;
+    for (const int item : text_pane_menu())
+        if (item != command::kSeparator) popup.push_back(item);
+    EXPECT_EQ(popup, (std::vector<int>{24321, 24322, 24323, 24324, 24325, 31589, 30589, 24370}));
     EXPECT_TRUE(is_pressable_button(command::kGraphSetup));
     EXPECT_FALSE(is_pressable_button(command::kFileSave));
 }

@@ -74,6 +74,17 @@ QAction *CommandRouter::Action(int id) const {
     return found == actions.end() || found->second.empty() ? nullptr : found->second.front();
 }
 
+QAction *CommandRouter::PopupAction(int id, QObject *parent) {
+    const CommandInfo *command = find_command(id);
+    auto *action =
+        new QAction(command != nullptr ? QString::fromUtf8(command->label) : QString(), parent);
+    action->setData(id);
+    action->setCheckable(command != nullptr && command->checkable);
+    UpdateAction(id, action);
+    connect(action, &QAction::triggered, this, [this, id](bool) { Execute(id); });
+    return action;
+}
+
 void CommandRouter::UpdateAction(int id, QAction *action) {
     const CommandState state = State(id);
     action->setEnabled(state.enabled);

@@ -59,6 +59,8 @@ public:
     // The action that stands for id in the menus and the tool bar.
     void RegisterAction(int id, QAction *action);
     QAction *Action(int id) const;
+    // An action for a pop-up menu that lives as long as its parent: its state is taken now.
+    QAction *PopupAction(int id, QObject *parent);
     // Runs the enablers of every registered action, or of the actions of one menu.
     void UpdateActions();
     void UpdateMenu(QMenu *menu);

@@ -3,6 +3,7 @@
 #include "document_window.h"
 
 #include <QFileInfo>
+#include <QMenu>
 #include <QVBoxLayout>
 
 #include "command_table.h"
@@ -97,6 +98,9 @@ DocumentWindow::DocumentWindow(Workbench &owner, int documentNumber, QWidget *pa
     editor.PlayWaveFile = [this](std::string_view name) { workbench.PlaySound(name); };
     editor.DispMessageBox = boxes;
     textPane->openFiles = [this](const QStringList &paths) { workbench.OpenFiles(paths); };
+    textPane->makeAction = [this](int id, QMenu *menu) {
+        return workbench.Router().PopupAction(id, menu);
+    };
 
     textPane->setFont(qfont_of(content.font));
     auto *layout = new QVBoxLayout(this);

@@ -2,8 +2,10 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 #include "math_editor_widget.h"
 
+#include <QContextMenuEvent>
 #include <QInputDialog>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMimeData>
 #include <QTextBlock>
 #include <QUrl>
@@ -140,6 +142,22 @@ void MathEditorWidget::keyPressEvent(QKeyEvent *event) {
         event->accept();
         ensureCursorVisible();
     }
+}
+
+void MathEditorWidget::contextMenuEvent(QContextMenuEvent *event) {
+    if (!makeAction) {
+        QPlainTextEdit::contextMenuEvent(event);
+        return;
+    }
+    QMenu menu(this);
+    menu.setAccessibleName(QStringLiteral("Math Editor menu"));
+    for (const int item : text_pane_menu()) {
+        if (item == command::kSeparator)
+            menu.addSeparator();
+        else
+            menu.addAction(makeAction(item, &menu));
+    }
+    menu.exec(event->globalPos());
 }
 
 bool MathEditorWidget::canInsertFromMimeData(const QMimeData *source) const {

@@ -39,12 +39,16 @@ public:
     bool CommandEnabler(int id, CommandState &state) override;
     bool CommandHandler(int id) override;
 
+    // The pop-up menu's items are the program's commands, made by whoever owns them.
+    std::function<QAction *(int id, QMenu *menu)> makeAction;
+
     // Files dropped on the text are opened, not pasted.
     std::function<void(const QStringList &paths)> openFiles;
 
 protected:
     bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
     bool canInsertFromMimeData(const QMimeData *source) const override;
     void insertFromMimeData(const QMimeData *source) override;
 

@@ -185,6 +185,15 @@ void DesktopCommands::editCommandsNeedTheTextPane() {
     QVERIFY(router.State(command::kFileSaveAs).enabled);
     harness.Frame().IdleAction();
     QVERIFY(!router.Action(command::kEditCut)->isEnabled());
+    // The text pane's pop-up takes the same states, and its actions run the commands.
+    harness.Current()->TextPane().setFocus();
+    QObject owner;
+    QAction *cut = router.PopupAction(command::kEditCut, &owner);
+    QCOMPARE(cut->text(), QStringLiteral("Cu&t\tCtrl+X"));
+    QVERIFY(cut->isEnabled());
+    QAction *newDocument = router.PopupAction(command::kFileNew, &owner);
+    newDocument->trigger();
+    QCOMPARE(harness.Client().Count(), 2);
 }
 
 void DesktopCommands::hintsShowInTheStatusBar() {
