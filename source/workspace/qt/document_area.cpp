@@ -6,7 +6,9 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QDragEnterEvent>
+#include <QFile>
 #include <QFileInfo>
+#include <QIcon>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMimeData>
@@ -46,7 +48,10 @@ constexpr const char *kLoadingText = "Loading Quindar File, Please Wait!";
 
 DocumentArea::DocumentArea(Workbench &owner, QWidget *parent) : QMdiArea(parent), workbench(owner) {
     setAccessibleName(QStringLiteral("Documents"));
-    setBackground(QBrush(QColor(0x5a, 0x7a, 0x8c)));
+    // The background tile when its picture is there, a calm plain colour until then.
+    const QString tile = QStringLiteral(":/icons/1079.svg");
+    setBackground(QFile::exists(tile) ? QBrush(QIcon(tile).pixmap(64, 64))
+                                      : QBrush(QColor(0x5a, 0x7a, 0x8c)));
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     viewport()->setAcceptDrops(true);
@@ -71,6 +76,8 @@ QMdiSubWindow *DocumentArea::AddDocument(DocumentWindow *document) {
     const int key = nextKey++;
     QMdiSubWindow *window = addSubWindow(document);
     window->setAttribute(Qt::WA_DeleteOnClose);
+    if (QFile::exists(QStringLiteral(":/icons/1002.svg")))
+        window->setWindowIcon(QIcon(QStringLiteral(":/icons/1002.svg")));
     window->setWindowTitle(document->Caption());
     window->setAccessibleName(document->Caption());
     if (window->systemMenu() != nullptr)

@@ -31,6 +31,7 @@ namespace quindar {
 namespace {
 
 constexpr int kComboWidth = 180;
+constexpr int kFrameIcon = 1001;
 constexpr int kLineGadgetCharacters = 10;
 constexpr const char *kLockNames[] = {"CAPS", "NUM", "SCRL", "OVR"};
 
@@ -45,6 +46,7 @@ MainFrame::MainFrame(Workbench &owner) : workbench(owner) {
     setWindowTitle(ui_string(kTitleQuindar));
     setAccessibleName(ui_string(kTitleQuindar));
     setAcceptDrops(true);
+    if (QFile::exists(IconPath(kFrameIcon))) setWindowIcon(QIcon(IconPath(kFrameIcon)));
     const AppSettings settings = workbench.Settings();
     toolBarShown = settings.ToolBar();
     hintMode = settings.Hints() == 1 ? 1 : 2;
