@@ -65,21 +65,18 @@ int box_escape_result(BoxButtons buttons) {
     return kIdCancel;
 }
 
-std::optional<std::string> format_message(std::string_view text,
-                                          std::span<const std::string_view> arguments) {
-    if (CountSpecifiers(text).strings < static_cast<int>(arguments.size())) return std::nullopt;
+namespace {
+
+// Copies text with each conversion that put accepts replaced by what it appends; "%%" is a
+// percent sign, a conversion put declines stays as it is.
+template <class Put>
+std::string Substitute(std::string_view text, Put put) {
     std::string result;
-    std::size_t next = 0;
     for (std::size_t at = 0; at < text.size(); ++at) {
         if (text[at] == '%' && at + 1 < text.size()) {
             const char kind = text[at + 1];
-            if (kind == '%') {
-                result += '%';
-                ++at;
-                continue;
-            }
-            if (kind == 's' && next < arguments.size()) {
-                result += arguments[next++];
+            if (kind == '%' || put(kind, result)) {
+                if (kind == '%') result += '%';
                 ++at;
                 continue;
             }
@@ -89,34 +86,31 @@ std::optional<std::string> format_message(std::string_view text,
     return result;
 }
 
+}  // namespace
+
+std::optional<std::string> format_message(std::string_view text,
+                                          std::span<const std::string_view> arguments) {
+    if (CountSpecifiers(text).strings < static_cast<int>(arguments.size())) return std::nullopt;
+    std::size_t next = 0;
+    return Substitute(text, [&](char kind, std::string &out) {
+        if (kind != 's' || next >= arguments.size()) return false;
+        out += arguments[next++];
+        return true;
+    });
+}
+
 std::optional<std::string> format_message(std::string_view text, int value) {
     if (CountSpecifiers(text).numbers == 0) return std::nullopt;
-    std::string result;
     bool done = false;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        if (text[at] == '%' && at + 1 < text.size()) {
-            const char kind = text[at + 1];
-            if (kind == '%') {
-                result += '%';
-                ++at;
-                continue;
-            }
-            if (!done && (kind == 'd' || kind == 'i')) {
-                result += std::to_string(value);
-                done = true;
-                ++at;
-                continue;
-            }
-            if (!done && kind == 'c') {
-                result += static_cast<char>(value);
-                done = true;
-                ++at;
-                continue;
-            }
-        }
-        result += text[at];
-    }
-    return result;
+    return Substitute(text, [&](char kind, std::string &out) {
+        if (done || (kind != 'd' && kind != 'i' && kind != 'c')) return false;
+        if (kind == 'c')
+            out += static_cast<char>(value);
+        else
+            out += std::to_string(value);
+        done = true;
+        return true;
+    });
 }
 
 std::string limit_box_text(std::string_view text, std::size_t limit) {
