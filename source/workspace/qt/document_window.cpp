@@ -73,6 +73,8 @@ constexpr PaneCommand kPaneCommands[] = {
     {command::kSaveAsDefaultMargins, false},
 };
 
+constexpr int kTextPaneHelpTopic = 19400;
+
 }  // namespace
 
 DocumentWindow::DocumentWindow(Workbench &owner, int documentNumber, QWidget *parent)
@@ -107,6 +109,7 @@ DocumentWindow::DocumentWindow(Workbench &owner, int documentNumber, QWidget *pa
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(textPane);
     setFocusProxy(textPane);
+    textPane->viewport()->installEventFilter(this);
     setAccessibleName(Caption());
     setWindowTitle(Caption());
 
@@ -116,6 +119,16 @@ DocumentWindow::DocumentWindow(Workbench &owner, int documentNumber, QWidget *pa
 }
 
 DocumentWindow::~DocumentWindow() = default;
+
+bool DocumentWindow::eventFilter(QObject *watched, QEvent *event) {
+    // In context-help mode a click on the text shows the text pane's topic.
+    if (event->type() == QEvent::MouseButtonPress && workbench.contextHelpMode) {
+        workbench.PlaySound("QClick.wav");
+        workbench.CallContextHelp(kTextPaneHelpTopic);
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
 
 QString DocumentWindow::Caption() const {
     const std::string name = ui_string(kStrMathEditor).toStdString();

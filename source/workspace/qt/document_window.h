@@ -63,6 +63,9 @@ signals:
     // The caret moved or the text changed: the frame's line gadget and Save follow.
     void stateChanged();
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     bool WriteTo(const std::string &target);
     void ClearChangeFlags();

@@ -32,6 +32,7 @@ namespace {
 
 constexpr int kComboWidth = 180;
 constexpr int kFrameIcon = 1001;
+constexpr int kWindowComboHelpTopic = 19469;
 constexpr int kLineGadgetCharacters = 10;
 constexpr const char *kLockNames[] = {"CAPS", "NUM", "SCRL", "OVR"};
 
@@ -166,7 +167,10 @@ void MainFrame::BuildToolBar() {
             windowCombo->setFocusPolicy(Qt::ClickFocus);
             connect(windowCombo, &QComboBox::activated, this, [this](int index) {
                 workbench.PlaySound("QClick.wav");
-                client->Activate(index);
+                if (workbench.contextHelpMode)
+                    workbench.CallContextHelp(kWindowComboHelpTopic);
+                else
+                    client->Activate(index);
             });
             windowComboAction = toolBar->addWidget(windowCombo);
             longToolBarActions.push_back(windowComboAction);

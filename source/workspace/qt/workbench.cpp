@@ -216,10 +216,14 @@ bool Workbench::eventFilter(QObject *watched, QEvent *event) {
 }
 
 void Workbench::ShowContextHelp(int id) {
+    const CommandInfo *command = find_command(id);
+    CallContextHelp(command != nullptr ? command->helpTopic : 0);
+}
+
+void Workbench::CallContextHelp(int topic) {
     contextHelpMode = false;
     QGuiApplication::restoreOverrideCursor();
-    const CommandInfo *command = find_command(id);
-    if (command != nullptr && command->helpTopic != 0) services.ShowHelpTopic(command->helpTopic);
+    if (topic != 0) services.ShowHelpTopic(topic);
 }
 
 bool Workbench::CommandEnabler(int id, CommandState &state) {

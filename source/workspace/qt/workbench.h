@@ -63,6 +63,8 @@ public:
 
     // Plays a sound of the Sounds folder when sound is on; false when nothing played.
     bool PlaySound(std::string_view fileName);
+    // Leaves context-help mode and shows the topic (0: none).
+    void CallContextHelp(int topic);
 
     // Opening and saving files; tests put their own choosers in place of the dialogs.
     using OpenChooser = std::function<QStringList(QWidget *parent, const QString &title,

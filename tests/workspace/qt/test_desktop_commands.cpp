@@ -240,6 +240,18 @@ void DesktopCommands::contextHelpShowsTheTopicInsteadOfActing() {
     QVERIFY(!harness.Bench().contextHelpMode);
     QVERIFY(router.Execute(command::kFileNew));
     QCOMPARE(harness.Client().Count(), 2);
+
+    // A click on the text in the mode shows the text pane's topic, and types nothing.
+    QVERIFY(router.Execute(command::kContextHelp));
+    MathEditorWidget &pane = harness.Current()->TextPane();
+    QTest::mouseClick(pane.viewport(), Qt::LeftButton);
+    QCOMPARE(harness.services.helpTopics, (QList<int>{19410, 19400}));
+    QVERIFY(!harness.Bench().contextHelpMode);
+    // The window combo box has its own.
+    QVERIFY(router.Execute(command::kContextHelp));
+    emit harness.Frame().WindowCombo()->activated(0);
+    QCOMPARE(harness.services.helpTopics.back(), 19469);
+    QCOMPARE(harness.Current()->Number(), 2);
 }
 
 void DesktopCommands::recentFilesAndDroppedFiles() {
@@ -261,19 +273,36 @@ void DesktopCommands::recentFilesAndDroppedFiles() {
     QCOMPARE(harness.Client().Count(), 2);
     QCOMPARE(harness.Current()->Path(), copy.toStdString());
 
+    // A file dropped on the text opens as well, and the text stays as it was.
+    const QString second = folder.path() + QStringLiteral("/second.qnd");
+    QVERIFY(QFile::copy(Sample(), second));
+    QMimeData onText;
+    onText.setUrls({QUrl::fromLocalFile(second)});
+    MathEditorWidget &pane = harness.Current()->TextPane();
+    const QString before = pane.toPlainText();
+    QDragEnterEvent enterText(QPoint(5, 5), Qt::CopyAction, &onText, Qt::LeftButton,
+                              Qt::NoModifier);
+    QApplication::sendEvent(pane.viewport(), &enterText);
+    QDropEvent dropText(QPointF(5, 5), Qt::CopyAction, &onText, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(pane.viewport(), &dropText);
+    QCOMPARE(pane.toPlainText(), before);
+    QCOMPARE(harness.Client().Count(), 3);
+    QCOMPARE(harness.Current()->Path(), second.toStdString());
+
     const AppSettings recent(
         (harness.Folder() + QStringLiteral("/config/Quindar/Quindar.ini")).toStdString());
-    QCOMPARE(recent.RecentFiles().front(), copy.toStdString());
+    QCOMPARE(recent.RecentFiles(),
+             (std::vector<std::string>{second.toStdString(), copy.toStdString()}));
     QMenu *file = harness.Frame().Menu(0);
     emit file->aboutToShow();
     bool listed = false;
     for (QAction *action : file->actions())
-        if (action->text() == QStringLiteral("&1 ") + copy) listed = true;
+        if (action->text() == QStringLiteral("&2 ") + copy) listed = true;
     QVERIFY(listed);
     // Choosing it again is refused: it is open.
     harness.boxes.Expect(QStringLiteral("This File Is Already Open."), kIdOk);
     harness.Bench().OpenFiles({copy});
-    QCOMPARE(harness.Client().Count(), 2);
+    QCOMPARE(harness.Client().Count(), 3);
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
