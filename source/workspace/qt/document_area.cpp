@@ -86,6 +86,7 @@ QMdiSubWindow *DocumentArea::AddDocument(DocumentWindow *document) {
     window->setProperty("documentKey", key);
     windows[key] = window;
     roster.Add(key, document->Path());
+    if (roster.Count() == 1 && workbench.firstDocumentOpened) workbench.firstDocumentOpened();
     connect(document, &DocumentWindow::captionChanged, this, [this, window, document, key] {
         window->setWindowTitle(document->Caption());
         window->setAccessibleName(document->Caption());
@@ -189,6 +190,7 @@ void DocumentArea::Removed(int key) {
         });
     }
     if (!workbench.closing) workbench.PlaySound("Click.wav");
+    if (roster.Count() == 0 && workbench.lastDocumentClosed) workbench.lastDocumentClosed();
     emit documentsChanged();
 }
 

@@ -183,7 +183,6 @@ bool DocumentWindow::WriteTo(const std::string &target) {
 }
 
 bool DocumentWindow::Save() {
-    workbench.PlaySound("QClick.wav");
     if (path.empty()) return SaveAs();
     return WriteTo(path);
 }

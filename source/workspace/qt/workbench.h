@@ -87,6 +87,10 @@ public:
     // calculus, font): true when the command was taken.
     bool RunDocumentTool(DocumentWindow &document, int id);
     std::function<bool(DocumentWindow &, int id)> documentTools;
+    // The first document of a set opened and the last one closed: the calculator bar follows
+    // (it opens as the ShowCalcBar option says, and closes with the last document).
+    std::function<void()> firstDocumentOpened;
+    std::function<void()> lastDocumentClosed;
     // The same for the client's tools: printing, Options, Function Library, calculator.
     bool RunClientTool(int id);
     std::function<bool(int id)> clientTools;

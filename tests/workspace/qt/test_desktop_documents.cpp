@@ -165,11 +165,21 @@ void DesktopDocuments::fiftyFirstDocumentIsRefused() {
 
 void DesktopDocuments::numbersAreNeverReused() {
     DesktopHarness harness;
+    int firsts = 0;
+    int lasts = 0;
+    harness.Bench().firstDocumentOpened = [&firsts] { ++firsts; };
+    harness.Bench().lastDocumentClosed = [&lasts] { ++lasts; };
     DocumentWindow *second = harness.Client().NewDocument();
     QCOMPARE(second->Caption(), QStringLiteral("2 - MATH EDITOR"));
     QVERIFY(harness.Client().CloseDocument(second));
     QCOMPARE(harness.Client().Count(), 1);
     QCOMPARE(harness.Client().NewDocument()->Caption(), QStringLiteral("3 - MATH EDITOR"));
+    QCOMPARE(firsts, 0);
+    // Closing all and opening again: the last and the first of a set are told.
+    QVERIFY(harness.Client().CloseAllDocuments());
+    QCOMPARE(lasts, 1);
+    QCOMPARE(harness.Client().NewDocument()->Caption(), QStringLiteral("4 - MATH EDITOR"));
+    QCOMPARE(firsts, 1);
 }
 
 void DesktopDocuments::closingTheCurrentDocumentChoosesTheNext() {
