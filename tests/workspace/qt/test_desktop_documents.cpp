@@ -41,6 +41,7 @@ private slots:
     void enterComputesAndBreaksTheLine();
     void saveIsEnabledAfterTyping();
     void savedDocumentReopensWithTextAndDeclarations();
+    void aFailedSaveKeepsTheTextAndTheChanges();
     void fiftyFirstDocumentIsRefused();
     void numbersAreNeverReused();
     void closingTheCurrentDocumentChoosesTheNext();
@@ -143,6 +144,23 @@ void DesktopDocuments::savedDocumentReopensWithTextAndDeclarations() {
     QFile saved(target);
     QVERIFY(saved.open(QIODevice::ReadOnly));
     QVERIFY(saved.readAll().startsWith("x = 5\r\nf[t] = t^2 + x\r\n"));
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DesktopDocuments::aFailedSaveKeepsTheTextAndTheChanges() {
+    DesktopHarness harness;
+    DocumentWindow *document = harness.Current();
+    TypeText(&document->TextPane(), QStringLiteral("7*6"));
+    QTest::keyClick(&document->TextPane(), Qt::Key_F4);
+    // A folder that does not exist stands for any place that cannot be written.
+    harness.nextSaveFile = harness.Folder() + QStringLiteral("/missing/folder/work.qnd");
+    harness.boxes.Expect(QStringLiteral("File was not saved!"), kIdOk);
+    QVERIFY(harness.Bench().Router().Execute(command::kFileSave));
+    QVERIFY(document->IsDirty());
+    QCOMPARE(document->Caption(), QStringLiteral("1 - MATH EDITOR"));
+    QCOMPARE(document->TextPane().toPlainText(), QStringLiteral("7*6 = 42"));
+    QVERIFY(harness.Bench().Router().State(command::kFileSave).enabled);
+    QCOMPARE(harness.boxes.shown, QStringList{QStringLiteral("Save File: File was not saved!")});
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
