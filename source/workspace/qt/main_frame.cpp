@@ -32,6 +32,7 @@ namespace {
 
 constexpr int kComboWidth = 180;
 constexpr int kFrameIcon = 1001;
+constexpr std::size_t kWindowMenuIndex = 6;
 constexpr int kWindowComboHelpTopic = 19469;
 constexpr int kLineGadgetCharacters = 10;
 constexpr const char *kLockNames[] = {"CAPS", "NUM", "SCRL", "OVR"};
@@ -123,6 +124,27 @@ void MainFrame::BuildMenus() {
     recentFilesMark = fileMenu->insertSeparator(recentFilesMark);
     RebuildRecentFiles();
     connect(fileMenu, &QMenu::aboutToShow, this, &MainFrame::RebuildRecentFiles);
+    // The Window menu ends with the open documents, the current one checked.
+    windowMenu = menus.at(kWindowMenuIndex);
+    connect(windowMenu, &QMenu::aboutToShow, this, &MainFrame::RebuildDocumentList);
+}
+
+void MainFrame::RebuildDocumentList() {
+    for (QAction *action : documentListActions) delete action;
+    documentListActions.clear();
+    if (client->Count() == 0) return;
+    documentListActions.push_back(windowMenu->addSeparator());
+    const int current = client->CurrentIndex();
+    for (int index = 0; index < client->Count(); ++index) {
+        DocumentWindow *document = client->At(index);
+        if (document == nullptr) continue;
+        auto *action =
+            windowMenu->addAction(QStringLiteral("&%1 %2").arg(index + 1).arg(document->Caption()));
+        action->setCheckable(true);
+        action->setChecked(index == current);
+        connect(action, &QAction::triggered, this, [this, index] { client->Activate(index); });
+        documentListActions.push_back(action);
+    }
 }
 
 void MainFrame::RebuildRecentFiles() {

@@ -58,6 +58,7 @@ private:
     void BuildToolBar();
     void BuildStatusBar();
     void RebuildRecentFiles();
+    void RebuildDocumentList();
     // The document menus, the long tool bar and the combo box come with the first document
     // and go with the last.
     void DocumentsChanged();
@@ -77,6 +78,8 @@ private:
     QMenu *fileMenu = nullptr;
     QAction *recentFilesMark = nullptr;
     std::vector<QAction *> recentFileActions;
+    QMenu *windowMenu = nullptr;
+    std::vector<QAction *> documentListActions;
     bool toolBarShown = true;
     QElapsedTimer lockClock;
 };

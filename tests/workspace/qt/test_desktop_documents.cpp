@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QTest>
 
@@ -305,6 +306,18 @@ void DesktopDocuments::comboBoxListsDocumentsAndActivatesThem() {
     harness.Client().Activate(0);
     QCOMPARE(harness.Current()->Number(), 1);
     QVERIFY(harness.Client().subWindowList().back()->isMinimized());
+
+    // The Window menu lists them too, the current one checked.
+    QMenu *windowMenu = harness.Frame().Menu(6);
+    emit windowMenu->aboutToShow();
+    QStringList listed;
+    for (QAction *action : windowMenu->actions())
+        if (action->text().startsWith(QLatin1Char('&')) && action->text().at(1).isDigit())
+            listed << action->text() + (action->isChecked() ? QStringLiteral(" *") : QString());
+    QCOMPARE(listed, (QStringList{QStringLiteral("&1 1 - MATH EDITOR *"),
+                                  QStringLiteral("&2 MATH EDITOR - ") + Sample().toUpper()}));
+    windowMenu->actions().back()->trigger();
+    QCOMPARE(harness.Current()->Number(), 0);
 }
 
 QTEST_MAIN(DesktopDocuments)
