@@ -24,11 +24,16 @@ int ScriptedBoxes::Present(const BoxRequest &request) {
         return answer;
     }
     unexpected << entry;
+    // The test fails here and now; the box is answered as Escape would, so nothing waits.
+    QTest::qFail(qPrintable(QStringLiteral("unexpected message box: ") + entry), __FILE__,
+                 __LINE__);
     return box_escape_result(box_style(request.flags).buttons);
 }
 
 DesktopHarness::DesktopHarness(const std::vector<std::string> &words,
-                               const std::function<void(DesktopFolders &)> &adjust) {
+                               const std::function<void(DesktopFolders &)> &adjust,
+                               const std::vector<ExpectedBox> &atStart) {
+    for (const ExpectedBox &box : atStart) boxes.expected.push_back(box);
     const std::string root = home.path().toStdString() + "/";
     QDir().mkpath(home.path() + QStringLiteral("/config/Quindar"));
     QFile ini(home.path() + QStringLiteral("/config/Quindar/Quindar.ini"));
@@ -73,6 +78,10 @@ DesktopHarness::DesktopHarness(const std::vector<std::string> &words,
 }
 
 DesktopHarness::~DesktopHarness() {
+    // A scripted box that never came fails the test as well.
+    for (const ExpectedBox &box : boxes.expected)
+        QTest::qFail(qPrintable(QStringLiteral("message box never shown: ") + box.textPart),
+                     __FILE__, __LINE__);
     // Closing documents asks nothing more of the test.
     workbench->Messages().SetPresenter([](const BoxRequest &) { return kIdNo; });
     workbench.reset();

@@ -4,7 +4,8 @@
 
 // A running desktop program for widget tests: temporary user folders with sound off and no
 // tip at start, file dialogs and message boxes answered from a script. A box the script did
-// not expect is answered with Cancel (or OK) and recorded, and the test fails on it.
+// not expect fails the test at once and is answered as Escape would (Cancel, No or OK); a
+// scripted box that never came fails it when the harness ends.
 
 #include <QStringList>
 #include <QTemporaryDir>
@@ -62,8 +63,10 @@ public:
 class DesktopHarness {
 public:
     // Starts the program with the command-line words; adjust may change its folders first.
+    // atStart: the boxes the start itself shows.
     explicit DesktopHarness(const std::vector<std::string> &words = {},
-                            const std::function<void(DesktopFolders &)> &adjust = {});
+                            const std::function<void(DesktopFolders &)> &adjust = {},
+                            const std::vector<ExpectedBox> &atStart = {});
     ~DesktopHarness();
 
     Workbench &Bench() { return *workbench; }

@@ -93,6 +93,7 @@ private slots:
     void tutorialsPlayInThePlayerFound();
     void functionKeysForHelp();
     void exitAsksEveryDocumentBeforeClosingAny();
+    void anUnexpectedBoxFailsTheTest();
 };
 
 void DesktopCommands::menusAndToolBarFollowTheDocuments() {
@@ -427,6 +428,15 @@ void DesktopCommands::exitAsksEveryDocumentBeforeClosingAny() {
     QVERIFY(harness.Frame().close());
     QCOMPARE(harness.Client().Count(), 0);
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DesktopCommands::anUnexpectedBoxFailsTheTest() {
+    DesktopHarness harness;
+    for (int count = 1; count < 50; ++count) harness.Client().NewDocument();
+    // The limit's box was not scripted: the recorder fails the test, and answers at once.
+    QEXPECT_FAIL("", "the box of the limit was not scripted", Continue);
+    QVERIFY(harness.Client().NewDocument() == nullptr);
+    QCOMPARE(harness.boxes.unexpected.size(), 1);
 }
 
 QTEST_MAIN(DesktopCommands)

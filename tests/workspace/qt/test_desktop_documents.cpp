@@ -283,9 +283,7 @@ void DesktopDocuments::missingAndDamagedDocumentsAreToldAndTheProgramGoesOn() {
 void DesktopDocuments::missingCommandLineFileGivesAnEmptyDocument() {
     QTemporaryDir folder;
     const std::string missing = folder.path().toStdString() + "/gone file.qnd";
-    // The box shows during the start; the harness's script is not in place yet, so it counts
-    // as unexpected and is checked here by its text.
-    DesktopHarness harness({missing});
+    DesktopHarness harness({missing}, {}, {{QStringLiteral("Could Not Be Found!"), kIdOk}});
     QCOMPARE(
         harness.boxes.shown,
         QStringList{QStringLiteral("Find File: The Command Line File \"%1\" Could Not Be Found!")
