@@ -9,6 +9,7 @@
 #include <QMimeData>
 #include <QTextBlock>
 #include <QUrl>
+#include <algorithm>
 
 #include "command_table.h"
 
@@ -61,20 +62,12 @@ bool IsEditorShortcut(const QKeyEvent &event) {
     }
 }
 
-// The commands of the text pane and whether each needs something to act on.
-enum class Needs { Nothing, Selection, Text };
-
-struct EditCommand {
-    int id;
-    Needs needs;
-};
-
-constexpr EditCommand kEditCommands[] = {
-    {command::kEditUndo, Needs::Nothing},     {command::kEditCut, Needs::Nothing},
-    {command::kEditCopy, Needs::Nothing},     {command::kEditPaste, Needs::Nothing},
-    {command::kEditClear, Needs::Nothing},    {command::kEditDelete, Needs::Nothing},
-    {command::kEditFind, Needs::Nothing},     {command::kEditReplace, Needs::Nothing},
-    {command::kEditFindNext, Needs::Nothing},
+// The commands of the text pane; they are enabled whenever it can be edited, as its control
+// answers each on its own terms (an empty selection cuts nothing).
+constexpr int kEditCommands[] = {
+    command::kEditUndo,  command::kEditCut,     command::kEditCopy,
+    command::kEditPaste, command::kEditClear,   command::kEditDelete,
+    command::kEditFind,  command::kEditReplace, command::kEditFindNext,
 };
 
 }  // namespace
@@ -176,13 +169,9 @@ void MathEditorWidget::insertFromMimeData(const QMimeData *source) {
 }
 
 bool MathEditorWidget::CommandEnabler(int id, CommandState &state) {
-    for (const EditCommand &command : kEditCommands) {
-        if (command.id == id) {
-            state.enabled = !isReadOnly();
-            return true;
-        }
-    }
-    return false;
+    if (std::ranges::find(kEditCommands, id) == std::end(kEditCommands)) return false;
+    state.enabled = !isReadOnly();
+    return true;
 }
 
 void MathEditorWidget::FindText(bool askForText) {
