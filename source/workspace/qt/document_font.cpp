@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 #include "document_font.h"
 
+#include <QFontInfo>
 #include <QFontMetrics>
 #include <algorithm>
 #include <cstdlib>
@@ -23,6 +24,17 @@ QFont qfont_of(const DocumentFont &record) {
     font.setUnderline(record.Underline != 0);
     font.setStrikeOut(record.StrikeOut != 0);
     return font;
+}
+
+DocumentFont document_font_of(const QFont &font, DocumentFont record) {
+    record.FaceName = font.family().toStdString();
+    const int pixels = font.pixelSize() > 0 ? font.pixelSize() : QFontInfo(font).pixelSize();
+    record.Height = -std::max(1, pixels);
+    record.Weight = font.weight();
+    record.Italic = font.italic() ? 1 : 0;
+    record.Underline = font.underline() ? 1 : 0;
+    record.StrikeOut = font.strikeOut() ? 1 : 0;
+    return record;
 }
 
 }  // namespace quindar

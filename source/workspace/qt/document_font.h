@@ -13,5 +13,8 @@
 namespace quindar {
 
 QFont qfont_of(const DocumentFont &font);
+// The record of a chosen font, over the old record (whose other fields stay): the face, the
+// character height in pixels as a negative height, the weight, italic, underline, strikeout.
+DocumentFont document_font_of(const QFont &font, DocumentFont record);
 
 }  // namespace quindar

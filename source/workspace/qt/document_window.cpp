@@ -237,6 +237,15 @@ bool DocumentWindow::CanClose() {
     return allowed;
 }
 
+void DocumentWindow::ChooseFont() {
+    QFont font = qfont_of(content.font);
+    if (!workbench.chooseFont(this, font)) return;
+    content.font = document_font_of(font, content.font);
+    textPane->setFont(qfont_of(content.font));
+    settingsChanged = true;
+    emit stateChanged();
+}
+
 bool DocumentWindow::CommandEnabler(int id, CommandState &state) {
     switch (id) {
         case command::kFileSave:
@@ -297,6 +306,9 @@ bool DocumentWindow::CommandHandler(int id) {
             return true;
         case command::kListsTop:
             listsRight = false;
+            return true;
+        case command::kChooseFont:
+            ChooseFont();
             return true;
         default:
             break;

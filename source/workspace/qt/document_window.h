@@ -68,6 +68,8 @@ protected:
 
 private:
     bool WriteTo(const std::string &target);
+    // The font dialog over the document's font; a new font makes the document dirty.
+    void ChooseFont();
     void ClearChangeFlags();
 
     Workbench &workbench;

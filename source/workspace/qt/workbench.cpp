@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFontDialog>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QProcess>
@@ -71,6 +72,13 @@ Workbench::Workbench(AppServices &appServices, DesktopFolders desktopFolders)
     InitIconResources();
     chooseOpenFiles = DialogOpenFiles;
     chooseSaveFile = DialogSaveFile;
+    chooseFont = [](QWidget *parent, QFont &font) {
+        bool ok = false;
+        const QFont chosen = QFontDialog::getFont(&ok, font, parent, QStringLiteral("Choose Font"),
+                                                  QFontDialog::DontUseNativeDialog);
+        if (ok) font = chosen;
+        return ok;
+    };
     startProcess = [](const QString &program, const QStringList &arguments) {
         return QProcess::startDetached(program, arguments);
     };

@@ -7,11 +7,13 @@
 // not expect fails the test at once and is answered as Escape would (Cancel, No or OK); a
 // scripted box that never came fails it when the harness ends.
 
+#include <QFont>
 #include <QStringList>
 #include <QTemporaryDir>
 #include <deque>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "app_services.h"
@@ -82,6 +84,8 @@ public:
     QStringList started;
     QStringList dialogsRun;
     bool startSucceeds = true;
+    // The font the font dialog chooses next; none: the dialog is cancelled.
+    std::optional<QFont> nextFont;
 
     ScriptedBoxes boxes;
     RecordingServices services;

@@ -43,6 +43,7 @@ private slots:
     void saveIsEnabledAfterTyping();
     void savedDocumentReopensWithTextAndDeclarations();
     void aFailedSaveKeepsTheTextAndTheChanges();
+    void aNewFontIsSavedWithTheDocument();
     void fiftyFirstDocumentIsRefused();
     void numbersAreNeverReused();
     void closingTheCurrentDocumentChoosesTheNext();
@@ -163,6 +164,38 @@ void DesktopDocuments::aFailedSaveKeepsTheTextAndTheChanges() {
     QVERIFY(harness.Bench().Router().State(command::kFileSave).enabled);
     QCOMPARE(harness.boxes.shown, QStringList{QStringLiteral("Save File: File was not saved!")});
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DesktopDocuments::aNewFontIsSavedWithTheDocument() {
+    DesktopHarness harness;
+    DocumentWindow *document = harness.Current();
+    QCOMPARE(document->TextPane().font().family(), QStringLiteral("Arial"));
+    QCOMPARE(document->TextPane().font().pixelSize(), 13);
+    QCOMPARE(document->TextPane().font().weight(), QFont::Bold);
+    // Cancelled: nothing changes.
+    QVERIFY(harness.Bench().Router().Execute(command::kChooseFont));
+    QVERIFY(!document->IsDirty());
+    QFont chosen(QStringLiteral("Liberation Mono"));
+    chosen.setPixelSize(16);
+    chosen.setItalic(true);
+    harness.nextFont = chosen;
+    QVERIFY(harness.Bench().Router().Execute(command::kChooseFont));
+    QVERIFY(document->IsDirty());
+    QCOMPARE(document->TextPane().font().family(), QStringLiteral("Liberation Mono"));
+    QCOMPARE(document->Content().font.Height, -16);
+    QCOMPARE(document->Content().font.Weight, 400);
+    QCOMPARE(document->Content().font.Italic, 1);
+
+    const QString target = harness.Folder() + QStringLiteral("/font.qnd");
+    harness.nextSaveFile = target;
+    QVERIFY(harness.Bench().Router().Execute(command::kFileSave));
+    QVERIFY(!document->IsDirty());
+    DesktopHarness second;
+    DocumentWindow *again = second.Client().OpenFile(target);
+    QVERIFY(again != nullptr);
+    QCOMPARE(again->Content().font.FaceName, std::string("Liberation Mono"));
+    QCOMPARE(again->TextPane().font().pixelSize(), 16);
+    QVERIFY(again->TextPane().font().italic());
 }
 
 void DesktopDocuments::fiftyFirstDocumentIsRefused() {
