@@ -100,6 +100,10 @@ DocumentWindow::DocumentWindow(Workbench &owner, int documentNumber, QWidget *pa
     editor.PlayWaveFile = [this](std::string_view name) { workbench.PlaySound(name); };
     editor.DispMessageBox = boxes;
     textPane->openFiles = [this](const QStringList &paths) { workbench.OpenFiles(paths); };
+    textPane->notFound = [this](const QString &text) {
+        workbench.Messages().ShowPlain(this, QStringLiteral("Cannot find \"%1\".").arg(text),
+                                       QStringLiteral("Find"), kBoxInformation);
+    };
     textPane->makeAction = [this](int id, QMenu *menu) {
         return workbench.Router().PopupAction(id, menu);
     };

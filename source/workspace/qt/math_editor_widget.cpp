@@ -3,7 +3,6 @@
 #include "math_editor_widget.h"
 
 #include <QContextMenuEvent>
-#include <QInputDialog>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
@@ -12,6 +11,7 @@
 #include <algorithm>
 
 #include "command_table.h"
+#include "find_replace_dialog.h"
 
 namespace quindar {
 namespace {
@@ -174,22 +174,14 @@ bool MathEditorWidget::CommandEnabler(int id, CommandState &state) {
     return true;
 }
 
-void MathEditorWidget::FindText(bool askForText) {
-    if (askForText || lastSearch.isEmpty()) {
-        bool ok = false;
-        const QString text =
-            QInputDialog::getText(this, QStringLiteral("Find"), QStringLiteral("Find what:"),
-                                  QLineEdit::Normal, lastSearch, &ok);
-        if (!ok || text.isEmpty()) return;
-        lastSearch = text;
+FindReplaceDialog &MathEditorWidget::FindDialog() {
+    if (findDialog == nullptr) {
+        findDialog = new FindReplaceDialog(*this);
+        findDialog->notFound = [this](const QString &text) {
+            if (notFound) notFound(text);
+        };
     }
-    if (!find(lastSearch)) {
-        // From the top once more before giving up.
-        QTextCursor cursor = textCursor();
-        cursor.movePosition(QTextCursor::Start);
-        setTextCursor(cursor);
-        find(lastSearch);
-    }
+    return *findDialog;
 }
 
 bool MathEditorWidget::CommandHandler(int id) {
@@ -218,14 +210,17 @@ bool MathEditorWidget::CommandHandler(int id) {
             return true;
         }
         case command::kEditFind:
-            FindText(true);
+            FindDialog().Open(false);
             return true;
-        // Replacing keeps to finding until the replace dialog comes.
         case command::kEditReplace:
-            FindText(true);
+            FindDialog().Open(true);
             return true;
         case command::kEditFindNext:
-            FindText(false);
+            // With nothing searched for yet, F3 opens Find.
+            if (FindDialog().HasSearch())
+                FindDialog().FindNext();
+            else
+                FindDialog().Open(false);
             return true;
         default:
             return false;

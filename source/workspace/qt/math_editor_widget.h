@@ -19,6 +19,7 @@
 
 namespace quindar {
 
+class FindReplaceDialog;
 class Parser;
 
 class MathEditorWidget : public QPlainTextEdit, public CommandTarget {
@@ -42,6 +43,11 @@ public:
     // The pop-up menu's items are the program's commands, made by whoever owns them.
     std::function<QAction *(int id, QMenu *menu)> makeAction;
 
+    // The find and replace dialog of this pane, made at first need.
+    FindReplaceDialog &FindDialog();
+    // Tells that a search found nothing.
+    std::function<void(const QString &text)> notFound;
+
     // Files dropped on the text are opened, not pasted.
     std::function<void(const QStringList &paths)> openFiles;
 
@@ -53,12 +59,10 @@ protected:
     void insertFromMimeData(const QMimeData *source) override;
 
 private:
-    void FindText(bool askForText);
-
     PlainTextBuffer buffer;
     ParserEngine engine;
     MathEditor editor;
-    QString lastSearch;
+    FindReplaceDialog *findDialog = nullptr;
 };
 
 }  // namespace quindar

@@ -14,6 +14,7 @@
 #include "desktop_harness.h"
 #include "document_area.h"
 #include "document_window.h"
+#include "find_replace_dialog.h"
 #include "main_frame.h"
 #include "math_editor_widget.h"
 #include "parser.h"
@@ -44,6 +45,7 @@ private slots:
     void savedDocumentReopensWithTextAndDeclarations();
     void aFailedSaveKeepsTheTextAndTheChanges();
     void aNewFontIsSavedWithTheDocument();
+    void findAndReplace();
     void fiftyFirstDocumentIsRefused();
     void numbersAreNeverReused();
     void closingTheCurrentDocumentChoosesTheNext();
@@ -196,6 +198,29 @@ void DesktopDocuments::aNewFontIsSavedWithTheDocument() {
     QCOMPARE(again->Content().font.FaceName, std::string("Liberation Mono"));
     QCOMPARE(again->TextPane().font().pixelSize(), 16);
     QVERIFY(again->TextPane().font().italic());
+}
+
+void DesktopDocuments::findAndReplace() {
+    DesktopHarness harness;
+    MathEditorWidget &pane = harness.Current()->TextPane();
+    pane.SetDocumentText("x = 1\r\ny = x + X\r\nz = x*2");
+    QVERIFY(harness.Bench().Router().Execute(command::kEditFind));
+    FindReplaceDialog &dialog = pane.FindDialog();
+    QVERIFY(dialog.isVisible());
+    QCOMPARE(dialog.windowTitle(), QStringLiteral("Find"));
+    dialog.SetSearch(QStringLiteral("x"), QStringLiteral("t"), true, true);
+    QVERIFY(dialog.FindNext());
+    QCOMPARE(pane.textCursor().blockNumber(), 0);
+    // F3 in the text goes on to the next match.
+    pane.setFocus();
+    QTest::keyClick(&pane, Qt::Key_F3);
+    QCOMPARE(pane.textCursor().blockNumber(), 1);
+    QCOMPARE(pane.textCursor().selectedText(), QStringLiteral("x"));
+    QCOMPARE(dialog.ReplaceAll(), 3);
+    QCOMPARE(pane.toPlainText(), QStringLiteral("t = 1\ny = t + X\nz = t*2"));
+    harness.boxes.Expect(QStringLiteral("Cannot find \"x\"."), kIdOk);
+    QVERIFY(!dialog.FindNext());
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
 void DesktopDocuments::fiftyFirstDocumentIsRefused() {
