@@ -338,7 +338,9 @@ bool DocumentArea::CommandHandler(int id) {
             CloseAllDocuments();
             return true;
         default:
-            return workbench.RunClientTool(id);
+            // Printing, Options, Function Library and the calculator come as client tools.
+            workbench.RunClientTool(id);
+            return true;
     }
 }
 

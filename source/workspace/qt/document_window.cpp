@@ -300,16 +300,16 @@ bool DocumentWindow::CommandHandler(int id) {
             workbench.CloseDocument(this);
             return true;
         case command::kVariablesList:
-            variablesListOpen = !variablesListOpen;
+            if (workbench.RunDocumentTool(*this, id)) variablesListOpen = !variablesListOpen;
             return true;
         case command::kFunctionsList:
-            functionsListOpen = !functionsListOpen;
+            if (workbench.RunDocumentTool(*this, id)) functionsListOpen = !functionsListOpen;
             return true;
         case command::kListsRight:
-            listsRight = true;
+            if (workbench.RunDocumentTool(*this, id)) listsRight = true;
             return true;
         case command::kListsTop:
-            listsRight = false;
+            if (workbench.RunDocumentTool(*this, id)) listsRight = false;
             return true;
         case command::kChooseFont:
             ChooseFont();
@@ -318,7 +318,10 @@ bool DocumentWindow::CommandHandler(int id) {
             break;
     }
     for (const PaneCommand &pane : kPaneCommands)
-        if (pane.id == id) return workbench.RunDocumentTool(*this, id);
+        if (pane.id == id) {
+            workbench.RunDocumentTool(*this, id);
+            return true;
+        }
     return false;
 }
 

@@ -82,10 +82,11 @@ private:
     bool settingsChanged = false;
     bool textChanged = false;
     bool closeChecked = false;
-    // Whether the list panes and the graph view stand open; the panes come with their own
-    // windows, until then the commands keep the states.
-    bool variablesListOpen = true;
-    bool functionsListOpen = true;
+    // Whether the list panes stand open, and where. The panes come with their own windows
+    // through the document tools; a state changes only when a tool took the command, so no
+    // check mark stands for a pane that is not there.
+    bool variablesListOpen = false;
+    bool functionsListOpen = false;
     bool listsRight = true;
 };
 

@@ -196,11 +196,11 @@ void Workbench::CloseDocument(DocumentWindow *document) {
 }
 
 bool Workbench::RunDocumentTool(DocumentWindow &document, int id) {
-    return documentTools ? documentTools(document, id) : true;
+    return documentTools && documentTools(document, id);
 }
 
 bool Workbench::RunClientTool(int id) {
-    return clientTools ? clientTools(id) : true;
+    return clientTools && clientTools(id);
 }
 
 bool Workbench::eventFilter(QObject *watched, QEvent *event) {

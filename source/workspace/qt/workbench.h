@@ -87,7 +87,7 @@ public:
     void AddRecentFile(const std::string &path);
     void CloseDocument(DocumentWindow *document);
     // The tools of a document that open windows of their own (lists, managers, graphs,
-    // calculus, font): true when the command was taken.
+    // calculus): true when a tool took the command; false while none is installed.
     bool RunDocumentTool(DocumentWindow &document, int id);
     std::function<bool(DocumentWindow &, int id)> documentTools;
     // The first document of a set opened and the last one closed: the calculator bar follows

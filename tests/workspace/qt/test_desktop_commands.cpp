@@ -94,6 +94,7 @@ private slots:
     void functionKeysForHelp();
     void exitAsksEveryDocumentBeforeClosingAny();
     void anUnexpectedBoxFailsTheTest();
+    void toolsOfLaterWindowsArriveThroughTheirHooks();
 };
 
 void DesktopCommands::menusAndToolBarFollowTheDocuments() {
@@ -437,6 +438,36 @@ void DesktopCommands::anUnexpectedBoxFailsTheTest() {
     QEXPECT_FAIL("", "the box of the limit was not scripted", Continue);
     QVERIFY(harness.Client().NewDocument() == nullptr);
     QCOMPARE(harness.boxes.unexpected.size(), 1);
+}
+
+void DesktopCommands::toolsOfLaterWindowsArriveThroughTheirHooks() {
+    DesktopHarness harness;
+    CommandRouter &router = harness.Bench().Router();
+    // With no list pane installed, its command changes nothing.
+    QVERIFY(router.Execute(command::kVariablesList));
+    QVERIFY(!router.State(command::kVariablesList).checked);
+    QList<int> documentIds;
+    QList<int> clientIds;
+    harness.Bench().documentTools = [&documentIds](DocumentWindow &, int id) {
+        documentIds << id;
+        return true;
+    };
+    harness.Bench().clientTools = [&clientIds](int id) {
+        clientIds << id;
+        return true;
+    };
+    QVERIFY(router.Execute(command::kVariablesList));
+    QVERIFY(router.State(command::kVariablesList).checked);
+    QVERIFY(router.Execute(command::kListsTop));
+    QVERIFY(router.State(command::kListsTop).checked);
+    QVERIFY(router.Execute(command::kCalculus));
+    QVERIFY(router.Execute(command::kOptions));
+    QVERIFY(router.Execute(command::kFilePrint));
+    // A graph command stays disabled while no graph shows.
+    QVERIFY(!router.Execute(command::kPrintGraph));
+    QCOMPARE(documentIds,
+             (QList<int>{command::kVariablesList, command::kListsTop, command::kCalculus}));
+    QCOMPARE(clientIds, (QList<int>{command::kOptions, command::kFilePrint}));
 }
 
 QTEST_MAIN(DesktopCommands)
