@@ -42,6 +42,7 @@ const char *const kHelp =
     "  --save DOC.qnd  also save the computed work (text, variables, functions,\n"
     "               settings and graphs) as the document DOC.qnd\n"
     "  -h, --help   show this text\n"
+    "  --version    print the program's version\n"
     "\n"
     "The Function Library: --functions lists its categories; --functions CATEGORY lists\n"
     "the names of one with their prototypes; --describe NAME prints the prototype and\n"
@@ -148,6 +149,8 @@ std::optional<Options> ParseOptions(const std::vector<std::string> &arguments, s
             optionsEnded = true;
         } else if (!optionsEnded && (argument == "--help" || argument == "-h")) {
             options.help = true;
+        } else if (!optionsEnded && argument == "--version") {
+            options.version = true;
         } else if (!optionsEnded && argument == "--enter") {
             options.key = RunKey::Enter;
         } else if (!optionsEnded && argument == "--in-place") {
