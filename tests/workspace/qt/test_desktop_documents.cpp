@@ -157,14 +157,18 @@ void DesktopDocuments::aFailedSaveKeepsTheTextAndTheChanges() {
     TypeText(&document->TextPane(), QStringLiteral("7*6"));
     QTest::keyClick(&document->TextPane(), Qt::Key_F4);
     // A folder that does not exist stands for any place that cannot be written.
-    harness.nextSaveFile = harness.Folder() + QStringLiteral("/missing/folder/work.qnd");
+    const QString target = harness.Folder() + QStringLiteral("/missing/folder/work.qnd");
+    harness.nextSaveFile = target;
     harness.boxes.Expect(QStringLiteral("File was not saved!"), kIdOk);
     QVERIFY(harness.Bench().Router().Execute(command::kFileSave));
     QVERIFY(document->IsDirty());
     QCOMPARE(document->Caption(), QStringLiteral("1 - MATH EDITOR"));
     QCOMPARE(document->TextPane().toPlainText(), QStringLiteral("7*6 = 42"));
     QVERIFY(harness.Bench().Router().State(command::kFileSave).enabled);
-    QCOMPARE(harness.boxes.shown, QStringList{QStringLiteral("Save File: File was not saved!")});
+    // The box names the file and the system's reason.
+    QCOMPARE(harness.boxes.shown,
+             QStringList{QStringLiteral("Save File: File was not saved! (") + target +
+                         QStringLiteral(": No such file or directory)")});
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
