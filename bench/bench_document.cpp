@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Quindar developers
 // Saving and loading documents: declarations and data sets of growing size.
 #include <benchmark/benchmark.h>
 
@@ -68,5 +69,38 @@ void BM_LoadDocument(benchmark::State &state) {
     std::filesystem::remove(path);
 }
 BENCHMARK(BM_LoadDocument)->Arg(10)->Arg(100)->Arg(1000)->Unit(benchmark::kMillisecond);
+
+// A document of range(0) variables and as many functions and nothing else: its load time
+// must grow linearly with the number of declarations.
+void BM_LoadDeclarations(benchmark::State &state) {
+    const std::string path = bench_path("declarations.qnd");
+    const int n = static_cast<int>(state.range(0));
+    {
+        Parser parser("", "");
+        DocumentContent content;
+        for (int i = 0; i < n; ++i) {
+            const std::string number = std::to_string(i);
+            parser.eval_exp(("v" + number + " = " + number + "/7").c_str(), true, false);
+            parser.eval_exp(("f" + number + "[x] = x^2+" + number).c_str(), true, false);
+        }
+        DocumentFile(parser, content).Write(path.c_str());
+    }
+    for (auto _ : state) {
+        Parser parser("", "");
+        DocumentContent content;
+        DocumentFile file(parser, content);
+        benchmark::DoNotOptimize(file.Read(path.c_str()));
+    }
+    std::filesystem::remove(path);
+    state.counters["per name"] = benchmark::Counter(
+        2.0 * n, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+}
+BENCHMARK(BM_LoadDeclarations)
+    ->Arg(1000)
+    ->Arg(2000)
+    ->Arg(4000)
+    ->Arg(8000)
+    ->Arg(10000)
+    ->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include "ini_file.h"
 #include "multi_string.h"
 #include "profile.h"
+#include "text_helpers.h"
 
 namespace quindar {
 
@@ -14,15 +15,36 @@ namespace {
 constexpr std::size_t kColorBuffer = 28;
 constexpr std::size_t kPointBuffer = 128;
 
+// Key names compare without regard to case, as ProfileText::find_key compares them.
+std::string lower_case(std::string_view name) {
+    std::string result(name);
+    for (char &c : result) c = text::lower(c);
+    return result;
+}
+
 }  // namespace
 
 std::optional<std::string_view> ProfileSnapshot::Value(std::string_view section,
                                                        std::string_view key) const {
     const ProfileText::Section *found = text.find_section(section);
     if (found == nullptr) return std::nullopt;
-    const std::size_t line = text.find_key(*found, key);
-    if (line == ProfileText::npos) return std::nullopt;
-    return text.lines()[line].value;
+    const KeyLines &lines = key_lines(*found);
+    const auto line = lines.find(lower_case(text::trim(key)));
+    if (line == lines.end()) return std::nullopt;
+    return text.lines()[line->second].value;
+}
+
+const ProfileSnapshot::KeyLines &ProfileSnapshot::key_lines(
+    const ProfileText::Section &section) const {
+    const auto [where, added] = keyLines.try_emplace(section.header);
+    if (added) {
+        for (std::size_t i = section.header + 1; i < section.end; ++i) {
+            const ProfileText::Line &line = text.lines()[i];
+            if (line.kind == ProfileText::Kind::Key)
+                where->second.try_emplace(lower_case(line.name), i);
+        }
+    }
+    return where->second;
 }
 
 std::string ProfileSnapshot::String(const char *section, const char *key, const char *deflt,

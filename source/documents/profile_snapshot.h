@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "color.h"
@@ -34,7 +35,13 @@ public:
     std::vector<std::string> KeyList(std::string_view section, std::size_t size) const;
 
 private:
+    // The line of the first key of each name in a section, by its name in lower case: a
+    // section of ten thousand variables is asked for each of them.
+    using KeyLines = std::unordered_map<std::string, std::size_t>;
+    const KeyLines &key_lines(const ProfileText::Section &section) const;
+
     ProfileText text;
+    mutable std::unordered_map<std::size_t, KeyLines> keyLines;  // by the section's header line
 };
 
 }  // namespace quindar
