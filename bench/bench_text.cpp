@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Quindar developers
+// Whole texts through the Math Editor: a text of mixed lines at growing sizes, whose time must
+// grow linearly, and a document-sized text of variables, functions and expressions. Each
+// line is computed with F4, as the command-line program does.
+#include <benchmark/benchmark.h>
+
+#include <string>
+
+#include "text_run.h"
+
+namespace {
+
+// Declarations, calls and plain arithmetic, cycling through the kinds a document holds.
+std::string mixed_text(int lines) {
+    std::string text;
+    for (int i = 0; i < lines; ++i) {
+        const std::string n = std::to_string(i);
+        switch (i % 5) {
+        case 0:
+            text += "v" + n + " = " + n + "/7";
+            break;
+        case 1:
+            text += "f" + n + "[x] = x^2+" + n;
+            break;
+        case 2:
+            text += "f" + std::to_string(i - 1) + "[v" + std::to_string(i - 2) + "]";
+            break;
+        case 3:
+            text += "(1.5+" + n + ")*3-2/7";
+            break;
+        default:
+            text += "v" + std::to_string(i - 4) + "*2+1";
+            break;
+        }
+        text += "\r\n";
+    }
+    return text;
+}
+
+void BM_text_lines(benchmark::State &state) {
+    const int lines = static_cast<int>(state.range(0));
+    const std::string text = mixed_text(lines);
+    for (auto _ : state) benchmark::DoNotOptimize(quindar::RunText(text, quindar::RunKey::F4));
+    state.counters["per line"] =
+        benchmark::Counter(lines, benchmark::Counter::kIsIterationInvariantRate |
+                                      benchmark::Counter::kInvert);
+}
+BENCHMARK(BM_text_lines)->Arg(500)->Arg(2000)->Arg(10000)->Unit(benchmark::kMillisecond);
+
+}  // namespace
