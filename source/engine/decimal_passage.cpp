@@ -23,10 +23,18 @@ constexpr Wide power_of(unsigned base, int n) {
     return result;
 }
 
+struct PowersOfFive {
+    Wide value[kLargestScale + 1];
+    constexpr PowersOfFive() : value() {
+        for (int k = 0; k <= kLargestScale; ++k) value[k] = power_of(5, k);
+    }
+};
+constexpr PowersOfFive kPowersOfFive;
+
 // mantissa * 2^binary * 10^scale rounded to an integer, ties to even; the exact product
 // mantissa * 5^scale needs at most 105 bits.
 Wide scaled(std::uint64_t mantissa, int binary, int scale) {
-    const Wide product = static_cast<Wide>(mantissa) * power_of(5, scale);
+    const Wide product = static_cast<Wide>(mantissa) * kPowersOfFive.value[scale];
     const int shift = binary + scale;
     if (shift >= 0) return shift > 20 ? ~Wide{0} : product << shift;
     const int right = -shift;
@@ -49,8 +57,9 @@ bool operand_digits(double value, bool &negative, std::uint64_t &coefficient, in
     const double fraction = std::frexp(magnitude, &binary);
     const auto mantissa = static_cast<std::uint64_t>(std::ldexp(fraction, 53));
     binary -= 53;
-    // A first guess of the decimal exponent, put right by the digits it gives.
-    int scale = 13 - static_cast<int>(std::floor(std::log10(magnitude)));
+    // A first guess of the decimal exponent from the binary one (off by one at most), put
+    // right by the digits it gives. 0.30103 is log10(2), 1233 / 4096 just above it.
+    int scale = 13 - (((binary + 52) * 1233) >> 12);
     for (int tries = 0; tries < 3; ++tries) {
         if (scale < 0 || scale > kLargestScale) return false;
         const Wide digits = scaled(mantissa, binary, scale);
