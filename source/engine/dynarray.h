@@ -291,6 +291,8 @@ public:
 
     // Deletes every element and returns to one chunk of empty slots, cursor on 0.
     void flush() {
+        // Already so: a map run empties its lists at every point.
+        if (count_ == 0 && index_ == 0 && data_.size() == static_cast<std::size_t>(chunk)) return;
         changed();
         data_.clear();
         data_.resize(chunk);

@@ -118,15 +118,22 @@ bool operand(double value, Decimal &result) {
         result = Decimal{};
         return true;
     }
-    return decimal_passage::operand_digits(value, result.negative, result.coefficient,
-                                           result.exponent);
+    // A whole number of up to 14 digits is its own 14-digit form.
+    const double magnitude = std::fabs(value);
+    if (magnitude < 1e14 && magnitude == std::floor(magnitude)) {
+        result = Decimal{std::signbit(value), static_cast<std::uint64_t>(magnitude), 0};
+        return true;
+    }
+    return decimal_passage::operand_significand(value, result.negative, result.coefficient,
+                                                result.exponent);
 }
 
 bool value_of(const Decimal &number, double &result) {
     long double wide = 0;
     Decimal x = number;
-    // Trailing zeros cost the reading of small values its exact powers of ten.
-    while (x.exponent < 0 && x.coefficient != 0 && x.coefficient % 10 == 0) {
+    // Reading divides by an exact power of ten up to 10^27; trailing zeros dropped may bring
+    // a smaller value within that. (Either way the one rounding is that of the same ratio.)
+    while (x.exponent < -27 && x.coefficient != 0 && x.coefficient % 10 == 0) {
         x.coefficient /= 10;
         ++x.exponent;
     }

@@ -201,7 +201,10 @@ TEST(ExactArithmetic, LeavesWhatItCannotDecideToTheDecimalRoad) {
     EXPECT_FALSE(exact::complex_add({1e-12, 0}, {1, 0}, result));
     EXPECT_FALSE(exact::complex_mult({NAN, 0}, {1, 0}, result));
     EXPECT_FALSE(exact::complex_add({INFINITY, 0}, {1, 0}, result));
-    EXPECT_FALSE(exact::complex_mult({1e-9, 0}, {1e-9, 0}, result));  // 1e-18 is read as text
+    // 15 digits down at 1e-18 are beyond the exact powers of ten of reading.
+    EXPECT_FALSE(exact::complex_mult({1.23456789e-9, 0}, {1.23456789e-9, 0}, result));
+    EXPECT_TRUE(exact::complex_mult({2e-9, 0}, {3e-9, 0}, result));
+    EXPECT_EQ(result.real, 6e-18);
 }
 
 }  // namespace
