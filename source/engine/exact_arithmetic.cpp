@@ -181,6 +181,38 @@ bool divide(const Decimal &a, const Decimal &b, Decimal &result) {
     return round_to_result(a.negative != b.negative, quotient, ex - ey - kScale, result);
 }
 
+bool square_root(const Decimal &x, Decimal &result) {
+    if (x.negative && x.coefficient != 0) return false;
+    if (x.coefficient == 0) {
+        result = Decimal{};
+        return true;
+    }
+    Wide c;
+    int e;
+    normalise(x, c, e);
+    // 31 or 32 digits with an even exponent: a root of 16 or 17 digits, one or two beyond
+    // the 15 kept. The root is cut (the integer root); the rounding then sees the cut digits
+    // as a root rounded down, which decides a tie away from zero the same way.
+    const int scale = (e - 17) % 2 == 0 ? 17 : 18;
+    const Wide radicand = c * power_of_ten(scale);
+    auto root = static_cast<std::uint64_t>(std::sqrt(static_cast<long double>(radicand)));
+    while (static_cast<Wide>(root) * root > radicand) --root;
+    while (static_cast<Wide>(root + 1) * (root + 1) <= radicand) ++root;
+    return round_to_result(false, root, (e - scale) / 2, result);
+}
+
+bool complex_sqrt(const complex &z, complex &result) {
+    Decimal x, root;
+    if (z.imag != 0 || !operand(z.real, x)) return false;
+    const bool negative = x.negative;
+    x.negative = false;
+    if (!square_root(x, root)) return false;
+    double magnitude = 0;
+    if (!value_of(root, magnitude)) return false;
+    result = negative ? complex{0.0, magnitude} : complex{magnitude, 0.0};
+    return true;
+}
+
 namespace {
 
 bool operands(const complex &a, const complex &b, Decimal (&parts)[4]) {

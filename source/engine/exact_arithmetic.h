@@ -36,6 +36,15 @@ bool add(const Decimal &a, const Decimal &b, Decimal &result);
 bool multiply(const Decimal &a, const Decimal &b, Decimal &result);
 bool divide(const Decimal &a, const Decimal &b, Decimal &result);
 
+// The square root rounded to 15 significant digits, ties away from zero, of a value that is
+// not negative.
+bool square_root(const Decimal &x, Decimal &result);
+
+// The principal square root of a real z (imaginary part 0) as the decimal layer takes it:
+// the modulus and the half sums are exact for a real, so the root of |z| stands in the
+// real part for z >= 0 and in the imaginary part for z < 0. False for a complex z.
+bool complex_sqrt(const complex &z, complex &result);
+
 // The four operators of `complex` as the decimal layer composes them: sums by parts, the
 // product (ar br - ai bi, ai br + ar bi) with each part rounded once, and the quotient by a
 // real divisor, whose parts are ar / br and ai / br exactly.

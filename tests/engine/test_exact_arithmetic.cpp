@@ -161,6 +161,50 @@ TEST_P(ExactArithmetic, AgreesWithTheDecimalRoadBitForBit) {
 
 INSTANTIATE_TEST_SUITE_P(Operators, ExactArithmetic, ::testing::Range(0, 4));
 
+// Square roots of reals: random parts, perfect squares, and squares of 16-digit values
+// ending in 5, whose roots lie exactly on a tie of the 15th digit.
+TEST(ExactSquareRoot, AgreesWithTheDecimalRoadBitForBit) {
+    const long draws = pairs_to_draw(1000000);
+    Operands draw(777u);
+    long decided = 0, mismatches = 0;
+    for (long k = 0; k < draws; ++k) {
+        double x = draw.part();
+        if (draw.pick(4) == 0) {
+            const double root =
+                static_cast<double>(1 + draw.pick(9999999)) / std::pow(10.0, draw.pick(8));
+            x = root * root;
+        } else if (draw.pick(8) == 0) {
+            const double root = (static_cast<double>(draw.pick(99999999)) + 0.5) * 1e-8;
+            x = root * root;
+        }
+        complex fast;
+        if (!exact::complex_sqrt({x, 0.0}, fast)) continue;
+        ++decided;
+        MapmNumber ar, ai, rr, ri;
+        Mathematics::SetMapmValue(x, &ar);
+        Mathematics::SetMapmValue(0.0, &ai);
+        m_apmc_sqrt(&rr, &ri, 14, &ar, &ai);
+        const complex road{static_cast<double>(Mathematics::GetMapmValue(&rr)),
+                           static_cast<double>(Mathematics::GetMapmValue(&ri))};
+        if (!same_bits(fast.real, road.real) || !same_bits(fast.imag, road.imag)) {
+            if (++mismatches <= 10)
+                ADD_FAILURE() << std::hexfloat << "SQRT " << x << ": integers (" << fast.real
+                              << ", " << fast.imag << "), decimal (" << road.real << ", "
+                              << road.imag << ")";
+        }
+    }
+    EXPECT_EQ(mismatches, 0);
+    EXPECT_GT(decided, draws / 2);
+    std::printf("SQRT: %ld of %ld values decided by integers, %ld mismatches\n", decided, draws,
+                mismatches);
+    complex root;
+    EXPECT_FALSE(exact::complex_sqrt({4, 1}, root));
+    ASSERT_TRUE(exact::complex_sqrt({-4, 0}, root));
+    EXPECT_TRUE(same_bits(root.real, 0.0) && same_bits(root.imag, 2.0));
+    ASSERT_TRUE(exact::complex_sqrt({2, -0.0}, root));
+    EXPECT_EQ(root.real, 1.41421356237310);
+}
+
 // Cases by hand: the edges the Parts name and the boundaries of each rounding.
 TEST(ExactArithmetic, CasesAtTheEdges) {
     struct Case {
