@@ -16,6 +16,7 @@
 #include <string>
 
 #include "exact_arithmetic.h"
+#include "exact_power.h"
 #include "mapm.h"
 #include "mapm_complex.h"
 #include "mathematics.h"
@@ -203,6 +204,62 @@ TEST(ExactSquareRoot, AgreesWithTheDecimalRoadBitForBit) {
     EXPECT_TRUE(same_bits(root.real, 0.0) && same_bits(root.imag, 2.0));
     ASSERT_TRUE(exact::complex_sqrt({2, -0.0}, root));
     EXPECT_EQ(root.real, 1.41421356237310);
+}
+
+// Powers of positive reals: integer exponents (squares and cubes most), the cube root's
+// exponent, a half, random reals; negative and zero bases must be left to the road.
+TEST(ExactPower, AgreesWithTheDecimalRoadBitForBit) {
+    const long draws = pairs_to_draw(1000000) / 10;
+    Operands draw(4242u);
+    // Ordinary cases: a base and a result well within the digit forms. Those left to the road
+    // there are the roundings the binary bound did not decide.
+    long decided = 0, mismatches = 0, positive = 0, ordinary = 0, ordinary_left = 0;
+    const double exponents[] = {2, 3, 2, 3, -1, -2, 4, 5, 10, 0.5, 0.333333333333333, 0, 1};
+    for (long k = 0; k < draws; ++k) {
+        const double base = draw.part();
+        const double exponent = draw.pick(5) == 0 ? draw.part() / 7 : exponents[draw.pick(13)];
+        positive += base > 0;
+        complex fast;
+        const bool fits = base >= 1e-8 && base <= 1e13 && std::fabs(exponent) <= 10 &&
+                          (exponent == 0 || std::fabs(exponent) >= 1e-8);
+        const double expected = std::pow(base, exponent);
+        const bool is_ordinary = fits && expected >= 1e-6 && expected <= 1e13;
+        ordinary += is_ordinary;
+        if (!exact::real_power({base, 0.0}, {exponent, 0.0}, fast)) {
+            ordinary_left += is_ordinary;
+            continue;
+        }
+        ++decided;
+        MapmNumber ar, ai, br, bi, rr, ri;
+        Mathematics::SetMapmValue(base, &ar);
+        Mathematics::SetMapmValue(0.0, &ai);
+        Mathematics::SetMapmValue(exponent, &br);
+        Mathematics::SetMapmValue(0.0, &bi);
+        m_apm_set_zero(&rr);
+        m_apm_set_zero(&ri);
+        m_apmc_pow(&rr, &ri, 14, &ar, &ai, &br, &bi);
+        const complex road{static_cast<double>(Mathematics::GetMapmValue(&rr)),
+                           static_cast<double>(Mathematics::GetMapmValue(&ri))};
+        if (!same_bits(fast.real, road.real) || !same_bits(fast.imag, road.imag)) {
+            if (++mismatches <= 10)
+                ADD_FAILURE() << std::hexfloat << base << " ^ " << exponent << ": binary ("
+                              << fast.real << ", " << fast.imag << "), decimal (" << road.real
+                              << ", " << road.imag << ")";
+        }
+    }
+    EXPECT_EQ(mismatches, 0);
+    EXPECT_GT(decided, positive / 2);
+    std::printf(
+        "POW: %ld of %ld positive bases decided in binary, %ld mismatches; %ld of %ld "
+        "ordinary cases left to the decimal road\n",
+        decided, positive, mismatches, ordinary_left, ordinary);
+    complex power;
+    EXPECT_FALSE(exact::real_power({-2, 0}, {2, 0}, power));
+    EXPECT_FALSE(exact::real_power({0, 0}, {2, 0}, power));
+    EXPECT_FALSE(exact::real_power({2, 1}, {2, 0}, power));
+    EXPECT_FALSE(exact::real_power({2, 0}, {2, 1}, power));
+    ASSERT_TRUE(exact::real_power({3, 0}, {2, 0}, power));
+    EXPECT_EQ(power.real, 9.0);
 }
 
 // Cases by hand: the edges the Parts name and the boundaries of each rounding.

@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Quindar developers
+#include "exact_power.h"
+
+#include <cmath>
+#include <cstdint>
+
+#include <mpfr.h>
+
+#include "exact_arithmetic.h"
+
+namespace quindar::exact {
+
+namespace {
+
+__extension__ typedef unsigned __int128 Wide;
+
+constexpr mpfr_prec_t kBits = 160;
+// Powers of ten up to 10^68 are exact in 160 bits (5^68 needs 158).
+constexpr int kExactPower = 68;
+// The decimal layer's own binary values (256 bits and more) lie within this relative
+// distance of the true ones; a decision must hold for them too.
+const double kRoadError = std::ldexp(1.0, -240);
+const double kUnit = std::ldexp(1.0, -kBits + 1);  // a relative rounding error of 160 bits
+// Beyond this exp(y) leaves the double range the result must reach anyway.
+constexpr double kLargestExponent = 700;
+
+class Binary {
+public:
+    Binary() { mpfr_init2(value_, kBits); }
+    ~Binary() { mpfr_clear(value_); }
+    Binary(const Binary &) = delete;
+    Binary &operator=(const Binary &) = delete;
+    mpfr_ptr get() { return value_; }
+
+private:
+    mpfr_t value_;
+};
+
+// n * 10^exponent with one rounding (relative error at most kUnit / 2).
+bool set_decimal(mpfr_ptr out, Wide n, int exponent) {
+    if (exponent > kExactPower || exponent < -kExactPower) return false;
+    static_assert(sizeof(unsigned long) == 8, "a machine word of 64 bits");
+    mpfr_set_ui(out, static_cast<unsigned long>(n >> 64), MPFR_RNDN);
+    mpfr_mul_2ui(out, out, 64, MPFR_RNDN);
+    mpfr_add_ui(out, out, static_cast<unsigned long>(n), MPFR_RNDN);  // exact: n < 2^128
+    if (exponent == 0) return true;
+    Binary power;
+    mpfr_ui_pow_ui(power.get(), 10, static_cast<unsigned long>(std::abs(exponent)), MPFR_RNDN);
+    if (exponent > 0)
+        mpfr_mul(out, out, power.get(), MPFR_RNDN);
+    else
+        mpfr_div(out, out, power.get(), MPFR_RNDN);
+    return true;
+}
+
+// |v| rounded to 17 significant digits, ties away from zero, where v lies within `error`
+// (relative) of the value meant; false when the rounding is not decided by that bound.
+bool round_to_17(mpfr_ptr v, double error, Decimal &result) {
+    constexpr double kLow = 1e16, kHigh = 1e17;
+    const double approximate = std::fabs(mpfr_get_d(v, MPFR_RNDN));
+    if (!(approximate > 1e-300 && approximate < 1e300)) return false;
+    int scale = 16 - static_cast<int>(std::floor(std::log10(approximate)));
+    Binary scaled, power;
+    for (int tries = 0; tries < 2; ++tries) {
+        if (scale > kExactPower || scale < -kExactPower) return false;
+        mpfr_ui_pow_ui(power.get(), 10, static_cast<unsigned long>(std::abs(scale)), MPFR_RNDN);
+        if (scale >= 0)
+            mpfr_mul(scaled.get(), v, power.get(), MPFR_RNDN);
+        else
+            mpfr_div(scaled.get(), v, power.get(), MPFR_RNDN);
+        mpfr_abs(scaled.get(), scaled.get(), MPFR_RNDN);
+        if (mpfr_cmp_d(scaled.get(), kHigh) >= 0) {
+            --scale;
+        } else if (mpfr_cmp_d(scaled.get(), kLow) < 0) {
+            ++scale;
+        } else {
+            break;
+        }
+    }
+    // With the scaling's own rounding, the scaled value lies within `slack` of the scaled
+    // value meant (it is below 10^17).
+    const double slack = kHigh * (error + kUnit) + 1e-9;
+    if (mpfr_cmp_d(scaled.get(), kLow + slack) < 0 || mpfr_cmp_d(scaled.get(), kHigh - slack) > 0)
+        return false;  // too near a change of decade to know the digits' places
+    const unsigned long whole = mpfr_get_ui(scaled.get(), MPFR_RNDZ);
+    mpfr_sub_ui(scaled.get(), scaled.get(), whole, MPFR_RNDN);  // exact: the fraction
+    const double fraction = mpfr_get_d(scaled.get(), MPFR_RNDN);
+    if (std::fabs(fraction - 0.5) <= slack) return false;
+    result = Decimal{false, static_cast<std::uint64_t>(whole + (fraction > 0.5 ? 1 : 0)), -scale};
+    return true;
+}
+
+}  // namespace
+
+bool real_power(const complex &a, const complex &b, complex &result) {
+    Decimal base, exponent;
+    if (a.imag != 0 || b.imag != 0 || !operand(a.real, base) || !operand(b.real, exponent))
+        return false;
+    if (base.coefficient == 0 || base.negative) return false;
+    Binary x, value;
+    if (!set_decimal(x.get(), base.coefficient, base.exponent)) return false;
+
+    // L = ln a at 17 digits; ln 1 is exactly 0.
+    Decimal logarithm;
+    mpfr_log(value.get(), x.get(), MPFR_RNDN);
+    if (!mpfr_zero_p(value.get())) {
+        // x is within kUnit / 2 of a, so the logarithm within kUnit / 2 (absolute), and
+        // the logarithm's own rounding adds kUnit / 2 of it (relative).
+        const double magnitude = std::fabs(mpfr_get_d(value.get(), MPFR_RNDN));
+        const double error = kUnit / magnitude + kUnit + kRoadError;
+        if (!round_to_17(value.get(), error, logarithm)) return false;
+        logarithm.negative = mpfr_sgn(value.get()) < 0;
+    }
+
+    // y = b L exactly (14 and 17 digits), M = exp(y) at 17 digits.
+    const Wide y = static_cast<Wide>(exponent.coefficient) * logarithm.coefficient;
+    Decimal magnitude{false, 1, 0};
+    if (y != 0) {
+        const bool negative = exponent.negative != logarithm.negative;
+        const int y_exponent = exponent.exponent + logarithm.exponent;
+        const double approximate = static_cast<double>(y) * std::pow(10.0, y_exponent);
+        if (!(std::fabs(approximate) < kLargestExponent)) return false;
+        if (!set_decimal(x.get(), y, y_exponent)) return false;
+        if (negative) mpfr_neg(x.get(), x.get(), MPFR_RNDN);
+        mpfr_exp(value.get(), x.get(), MPFR_RNDN);
+        // y within kUnit / 2 (relative): exp(y) within |y| kUnit / 2, and its rounding.
+        const double error = (std::fabs(approximate) + 1) * (kUnit + kRoadError);
+        if (!round_to_17(value.get(), error, magnitude)) return false;
+    }
+
+    // The engine's rounding of M to 15 digits.
+    Decimal rounded;
+    if (!multiply(magnitude, Decimal{false, 1, 0}, rounded)) return false;
+    double real = 0;
+    if (!value_of(rounded, real)) return false;
+    result = complex{real, 0.0};
+    return true;
+}
+
+}  // namespace quindar::exact
