@@ -54,13 +54,13 @@ bool set_decimal(mpfr_ptr out, Wide n, int exponent) {
     return true;
 }
 
-// |v| rounded to 17 significant digits, ties away from zero, where v lies within `error`
-// (relative) of the value meant; false when the rounding is not decided by that bound.
-bool round_to_17(mpfr_ptr v, double error, Decimal &result) {
-    constexpr double kLow = 1e16, kHigh = 1e17;
+// |v| rounded to `digits` (17 or 18) significant digits, ties away from zero, where v lies
+// within `error` (relative) of the value meant; false when that bound does not decide it.
+bool round_to_digits(mpfr_ptr v, double error, int digits, Decimal &result) {
+    const double kLow = std::pow(10.0, digits - 1), kHigh = 10 * kLow;
     const double approximate = std::fabs(mpfr_get_d(v, MPFR_RNDN));
     if (!(approximate > 1e-300 && approximate < 1e300)) return false;
-    int scale = 16 - static_cast<int>(std::floor(std::log10(approximate)));
+    int scale = digits - 1 - static_cast<int>(std::floor(std::log10(approximate)));
     Binary scaled, power;
     for (int tries = 0; tries < 2; ++tries) {
         if (scale > kExactPower || scale < -kExactPower) return false;
@@ -91,27 +91,52 @@ bool round_to_17(mpfr_ptr v, double error, Decimal &result) {
     return true;
 }
 
+// ln x of a positive x with its sign, at `digits`; 0 for x = 1.
+bool logarithm_of(mpfr_ptr x, int digits, Decimal &result) {
+    Binary value;
+    mpfr_log(value.get(), x, MPFR_RNDN);
+    result = Decimal{};
+    if (mpfr_zero_p(value.get())) return true;
+    // x is within kUnit / 2 of the operand, so the logarithm within kUnit / 2 (absolute),
+    // and the logarithm's own rounding adds kUnit / 2 of it (relative).
+    const double magnitude = std::fabs(mpfr_get_d(value.get(), MPFR_RNDN));
+    const double error = kUnit / magnitude + kUnit + kRoadError;
+    if (!round_to_digits(value.get(), error, digits, result)) return false;
+    result.negative = mpfr_sgn(value.get()) < 0;
+    return true;
+}
+
+// The engine's rounding of a decimal result to 15 digits, read as a double.
+bool engine_value(const Decimal &wide, double &value) {
+    Decimal rounded;
+    return multiply(wide, Decimal{false, 1, 0}, rounded) && value_of(rounded, value);
+}
+
+bool positive_operand(const complex &z, Decimal &x, Binary &binary) {
+    return z.imag == 0 && operand(z.real, x) && x.coefficient != 0 && !x.negative &&
+           set_decimal(binary.get(), x.coefficient, x.exponent);
+}
+
 }  // namespace
 
-bool real_power(const complex &a, const complex &b, complex &result) {
-    Decimal base, exponent;
-    if (a.imag != 0 || b.imag != 0 || !operand(a.real, base) || !operand(b.real, exponent))
+bool real_log(const complex &z, complex &result) {
+    Decimal x, logarithm;
+    Binary binary;
+    double real = 0;
+    // The modulus of a positive real is itself; its argument is 0.
+    if (!positive_operand(z, x, binary) || !logarithm_of(binary.get(), 18, logarithm) ||
+        !engine_value(logarithm, real))
         return false;
-    if (base.coefficient == 0 || base.negative) return false;
-    Binary x, value;
-    if (!set_decimal(x.get(), base.coefficient, base.exponent)) return false;
+    result = complex{real, 0.0};
+    return true;
+}
 
-    // L = ln a at 17 digits; ln 1 is exactly 0.
-    Decimal logarithm;
-    mpfr_log(value.get(), x.get(), MPFR_RNDN);
-    if (!mpfr_zero_p(value.get())) {
-        // x is within kUnit / 2 of a, so the logarithm within kUnit / 2 (absolute), and
-        // the logarithm's own rounding adds kUnit / 2 of it (relative).
-        const double magnitude = std::fabs(mpfr_get_d(value.get(), MPFR_RNDN));
-        const double error = kUnit / magnitude + kUnit + kRoadError;
-        if (!round_to_17(value.get(), error, logarithm)) return false;
-        logarithm.negative = mpfr_sgn(value.get()) < 0;
-    }
+bool real_power(const complex &a, const complex &b, complex &result) {
+    Decimal base, exponent, logarithm;
+    Binary x, value;
+    if (b.imag != 0 || !operand(b.real, exponent) || !positive_operand(a, base, x) ||
+        !logarithm_of(x.get(), 17, logarithm))
+        return false;
 
     // y = b L exactly (14 and 17 digits), M = exp(y) at 17 digits.
     const Wide y = static_cast<Wide>(exponent.coefficient) * logarithm.coefficient;
@@ -126,14 +151,12 @@ bool real_power(const complex &a, const complex &b, complex &result) {
         mpfr_exp(value.get(), x.get(), MPFR_RNDN);
         // y within kUnit / 2 (relative): exp(y) within |y| kUnit / 2, and its rounding.
         const double error = (std::fabs(approximate) + 1) * (kUnit + kRoadError);
-        if (!round_to_17(value.get(), error, magnitude)) return false;
+        if (!round_to_digits(value.get(), error, 17, magnitude)) return false;
     }
 
     // The engine's rounding of M to 15 digits.
-    Decimal rounded;
-    if (!multiply(magnitude, Decimal{false, 1, 0}, rounded)) return false;
     double real = 0;
-    if (!value_of(rounded, real)) return false;
+    if (!engine_value(magnitude, real)) return false;
     result = complex{real, 0.0};
     return true;
 }

@@ -2,10 +2,10 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 #pragma once
 
-// The power of a positive real to a real exponent, with the decimal layer's roundings but
-// without its long decimals. There the power is M = exp(b L) with L = ln a, each rounded to
-// 17 digits (ties away), and then the phase, which is exactly 0 for a positive real base,
-// leaves (M, 0); the engine rounds M to 15 digits. Here ln a and exp(b L) are computed in
+// The power of a positive real to a real exponent, and its logarithm, with the decimal layer's
+// roundings but without its long decimals. There the power is M = exp(b L) with L = ln a, each
+// rounded to 17 digits (ties away), and then the phase, which is exactly 0 for a positive real
+// base, leaves (M, 0); the engine rounds M to 15 digits. Here ln a and exp(b L) are computed in
 // 160-bit binary with a known bound on their error; a 17-digit rounding that the bound
 // cannot decide (a value too close to a tie) is left to the decimal road, as is every base
 // that is not a positive real, so the digits are always the decimal road's.
@@ -16,5 +16,9 @@ namespace quindar::exact {
 
 // a^b for a real a > 0 and a real b; false where the decimal road must decide.
 bool real_power(const complex &a, const complex &b, complex &result);
+
+// ln z of a real z > 0: ln z at 18 digits, as the decimal layer rounds it before the engine
+// rounds to 15; the argument is 0.
+bool real_log(const complex &z, complex &result);
 
 }  // namespace quindar::exact

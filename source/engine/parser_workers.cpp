@@ -4,6 +4,7 @@
 // operators, the embedded functions and the map solver share them.
 #include "embedded_tables.h"
 #include "exact_arithmetic.h"
+#include "exact_power.h"
 #include "mapm_complex.h"
 #include "mapm_functions.h"
 #include "parser.h"
@@ -35,6 +36,7 @@ complex Parser::_log(const complex &z) {
         mathlib_exception(kOfZero, internal_function("LN"), nullptr);
         return complex{};
     }
+    if (complex logarithm; exact::real_log(z, logarithm)) return logarithm;
     return complex_worker(z, [this] { m_apmc_log(mapm_r1, mapm_r2, kPlaces, mapm_a, mapm_b); });
 }
 

@@ -262,6 +262,47 @@ TEST(ExactPower, AgreesWithTheDecimalRoadBitForBit) {
     EXPECT_EQ(power.real, 9.0);
 }
 
+TEST(ExactLogarithm, AgreesWithTheDecimalRoadBitForBit) {
+    const long draws = pairs_to_draw(1000000) / 10;
+    Operands draw(31415u);
+    long decided = 0, mismatches = 0, ordinary = 0, ordinary_left = 0;
+    for (long k = 0; k < draws; ++k) {
+        // Near 1 as well, where the logarithm is small and cancels.
+        const double x = draw.pick(6) == 0 ? 1 + draw.part() * 1e-6 : draw.part();
+        const bool is_ordinary = x >= 1e-8 && x <= 1e13;
+        ordinary += is_ordinary;
+        complex fast;
+        if (!exact::real_log({x, 0.0}, fast)) {
+            ordinary_left += is_ordinary;
+            continue;
+        }
+        ++decided;
+        MapmNumber ar, ai, rr, ri;
+        Mathematics::SetMapmValue(x, &ar);
+        Mathematics::SetMapmValue(0.0, &ai);
+        m_apmc_log(&rr, &ri, 14, &ar, &ai);
+        const complex road{static_cast<double>(Mathematics::GetMapmValue(&rr)),
+                           static_cast<double>(Mathematics::GetMapmValue(&ri))};
+        if (!same_bits(fast.real, road.real) || !same_bits(fast.imag, road.imag)) {
+            if (++mismatches <= 10)
+                ADD_FAILURE() << std::hexfloat << "LN " << x << ": binary (" << fast.real << ", "
+                              << fast.imag << "), decimal (" << road.real << ", " << road.imag
+                              << ")";
+        }
+    }
+    EXPECT_EQ(mismatches, 0);
+    EXPECT_GT(decided, draws / 3);
+    std::printf(
+        "LN: %ld decided in binary, %ld mismatches; %ld of %ld ordinary cases left to "
+        "the decimal road\n",
+        decided, mismatches, ordinary_left, ordinary);
+    complex logarithm;
+    EXPECT_FALSE(exact::real_log({-1, 0}, logarithm));
+    EXPECT_FALSE(exact::real_log({1, 1}, logarithm));
+    ASSERT_TRUE(exact::real_log({1, 0}, logarithm));
+    EXPECT_TRUE(same_bits(logarithm.real, 0.0) && same_bits(logarithm.imag, 0.0));
+}
+
 // Cases by hand: the edges the Parts name and the boundaries of each rounding.
 TEST(ExactArithmetic, CasesAtTheEdges) {
     struct Case {
