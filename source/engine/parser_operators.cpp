@@ -2,7 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 // Workers of the power, factorial and relational operators; the embedded functions
 // and the map solver call the same ones, so a line and its map agree.
-#include "exact_power.h"
+#include "exact_functions.h"
 #include "mapm_complex.h"
 #include "parser.h"
 #include "parser_complex_worker.h"

@@ -4,7 +4,7 @@
 // operators, the embedded functions and the map solver share them.
 #include "embedded_tables.h"
 #include "exact_arithmetic.h"
-#include "exact_power.h"
+#include "exact_functions.h"
 #include "mapm_complex.h"
 #include "mapm_functions.h"
 #include "parser.h"

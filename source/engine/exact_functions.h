@@ -2,7 +2,8 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 #pragma once
 
-// The power of a positive real to a real exponent, and its logarithm, with the decimal layer's
+// The power of a positive real to a real exponent, its logarithm and the sine and cosine of
+// a real, with the decimal layer's
 // roundings but without its long decimals. There the power is M = exp(b L) with L = ln a, each
 // rounded to 17 digits (ties away), and then the phase, which is exactly 0 for a positive real
 // base, leaves (M, 0); the engine rounds M to 15 digits. Here ln a and exp(b L) are computed in
@@ -20,5 +21,10 @@ bool real_power(const complex &a, const complex &b, complex &result);
 // ln z of a real z > 0: ln z at 18 digits, as the decimal layer rounds it before the engine
 // rounds to 15; the argument is 0.
 bool real_log(const complex &z, complex &result);
+
+// sin x or cos x of a real x: the value at 18 digits (its hyperbolic factor is exactly 1,
+// the imaginary part exactly 0), then the engine's 15. In degrees the angle is first the
+// product with pi / 180 at 34 digits, cut, as the decimal layer makes it.
+bool real_sine(double x, bool cosine, bool degrees, complex &result);
 
 }  // namespace quindar::exact

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Quindar developers
-#include "exact_power.h"
+#include "exact_functions.h"
 
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
 
+#include <gmp.h>
 #include <mpfr.h>
 
 #include "exact_arithmetic.h"
@@ -127,6 +129,80 @@ bool real_log(const complex &z, complex &result) {
     if (!positive_operand(z, x, binary) || !logarithm_of(binary.get(), 18, logarithm) ||
         !engine_value(logarithm, real))
         return false;
+    result = complex{real, 0.0};
+    return true;
+}
+
+namespace {
+
+// pi / 180 as the decimal layer holds it: its first 34 digits, cut, times 10^-35.
+constexpr const char *kDegreeDigits = "1745329251994329576923690768488612";
+constexpr int kDegreeExponent = -35;
+constexpr std::size_t kStoredDigits = 34;
+
+// The angle in radians of x degrees as the decimal layer makes it, the product of the
+// operand and its pi / 180 cut to 34 digits, into binary with one rounding.
+bool degrees_to_binary(const Decimal &angle, mpfr_ptr out) {
+    mpz_t product, power;
+    mpz_init_set_str(product, kDegreeDigits, 10);
+    mpz_init(power);
+    mpz_mul_ui(product, product, static_cast<unsigned long>(angle.coefficient));
+    int exponent = angle.exponent + kDegreeExponent;
+    std::size_t digits = mpz_sizeinbase(product, 10);
+    mpz_ui_pow_ui(power, 10, static_cast<unsigned long>(digits - 1));
+    if (mpz_cmp(product, power) < 0) --digits;  // the size may count one digit too many
+    if (digits > kStoredDigits) {
+        mpz_ui_pow_ui(power, 10, static_cast<unsigned long>(digits - kStoredDigits));
+        mpz_tdiv_q(product, product, power);
+        exponent += static_cast<int>(digits - kStoredDigits);
+    }
+    const bool exact = exponent <= kExactPower && exponent >= -kExactPower;
+    if (exact) {
+        mpfr_set_z(out, product, MPFR_RNDN);  // exact: below 10^34 < 2^160
+        Binary scale;
+        mpfr_ui_pow_ui(scale.get(), 10, static_cast<unsigned long>(std::abs(exponent)), MPFR_RNDN);
+        if (exponent >= 0)
+            mpfr_mul(out, out, scale.get(), MPFR_RNDN);
+        else
+            mpfr_div(out, out, scale.get(), MPFR_RNDN);
+    }
+    mpz_clear(product);
+    mpz_clear(power);
+    return exact;
+}
+
+}  // namespace
+
+bool real_sine(double x, bool cosine, bool degrees, complex &result) {
+    Decimal angle, value;
+    if (!operand(x, angle)) return false;
+    Binary binary, function;
+    if (angle.coefficient == 0) {
+        mpfr_set_zero(binary.get(), 1);
+    } else if (degrees) {
+        if (!degrees_to_binary(angle, binary.get())) return false;
+    } else if (!set_decimal(binary.get(), angle.coefficient, angle.exponent)) {
+        return false;
+    }
+    if (angle.negative) mpfr_neg(binary.get(), binary.get(), MPFR_RNDN);
+    // The angle as the decimal layer has it, in radians, for the error bound.
+    const double radians = std::fabs(mpfr_get_d(binary.get(), MPFR_RNDN));
+    if (cosine)
+        mpfr_cos(function.get(), binary.get(), MPFR_RNDN);
+    else
+        mpfr_sin(function.get(), binary.get(), MPFR_RNDN);
+    if (!mpfr_zero_p(function.get())) {
+        // The angle within |x| kUnit / 2 (absolute) moves the value as much; its own
+        // rounding adds kUnit / 2 of it. The decimal layer's binary angle carries more bits
+        // for a larger angle, so its error stays below kRoadError relative to the angle.
+        const double magnitude = std::fabs(mpfr_get_d(function.get(), MPFR_RNDN));
+        const double reach = radians + 1;
+        const double error = (kUnit + kRoadError) * reach / magnitude + kUnit;
+        if (!round_to_digits(function.get(), error, 18, value)) return false;
+        value.negative = mpfr_sgn(function.get()) < 0;
+    }
+    double real = 0;
+    if (!engine_value(value, real)) return false;
     result = complex{real, 0.0};
     return true;
 }
