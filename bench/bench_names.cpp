@@ -22,60 +22,44 @@ std::vector<std::string> numbered_lines(const char *head, const char *tail, int 
     return lines;
 }
 
-// Each iteration declares a name no line has used before.
-void BM_line_new_variable(benchmark::State &state) {
+// Lines "<head>K<tail>" with libraries installed. With `fresh` each line names a new K (the
+// engine is emptied every thousand names, so that it holds as many as the other case);
+// otherwise K cycles through a thousand names, each declared once before, so that only
+// the look-ups differ.
+void declare_lines(benchmark::State &state, const char *head, const char *tail, bool fresh,
+                   void (Parser::*empty)()) {
     Parser parser(QUINDAR_LIBRARY_DIR, QUINDAR_LIBRARY_DIR);
     quindar::install_function_libraries(parser);
     long k = 0;
     for (auto _ : state) {
-        // A document of up to a thousand names, as the line that reuses one has.
-        if (k % 1000 == 999) {
+        if (fresh && k % 1000 == 999) {
             state.PauseTiming();
-            parser.delete_all_vars();
+            (parser.*empty)();
             state.ResumeTiming();
         }
-        const std::string line = "v" + std::to_string(k++) + " = 1+2";
+        const std::string line = head + std::to_string(fresh ? k : k % 1000) + tail;
+        ++k;
         benchmark::DoNotOptimize(parser.eval_exp(line.c_str(), true, false));
     }
+}
+
+void BM_line_new_variable(benchmark::State &state) {
+    declare_lines(state, "v", " = 1+2", true, &Parser::delete_all_vars);
 }
 BENCHMARK(BM_line_new_variable);
 
 void BM_line_reused_variable(benchmark::State &state) {
-    Parser parser(QUINDAR_LIBRARY_DIR, QUINDAR_LIBRARY_DIR);
-    quindar::install_function_libraries(parser);
-    long k = 0;
-    for (auto _ : state) {
-        // The same texts as above, each name declared once before, so only the look-ups differ.
-        const std::string line = "v" + std::to_string(k++ % 1000) + " = 1+2";
-        benchmark::DoNotOptimize(parser.eval_exp(line.c_str(), true, false));
-    }
+    declare_lines(state, "v", " = 1+2", false, &Parser::delete_all_vars);
 }
 BENCHMARK(BM_line_reused_variable);
 
 void BM_line_new_function(benchmark::State &state) {
-    Parser parser(QUINDAR_LIBRARY_DIR, QUINDAR_LIBRARY_DIR);
-    quindar::install_function_libraries(parser);
-    long k = 0;
-    for (auto _ : state) {
-        if (k % 1000 == 999) {
-            state.PauseTiming();
-            parser.delete_all_funcs();
-            state.ResumeTiming();
-        }
-        const std::string line = "f" + std::to_string(k++) + "[x] = x^2+1";
-        benchmark::DoNotOptimize(parser.eval_exp(line.c_str(), true, false));
-    }
+    declare_lines(state, "f", "[x] = x^2+1", true, &Parser::delete_all_funcs);
 }
 BENCHMARK(BM_line_new_function);
 
 void BM_line_reused_function(benchmark::State &state) {
-    Parser parser(QUINDAR_LIBRARY_DIR, QUINDAR_LIBRARY_DIR);
-    quindar::install_function_libraries(parser);
-    long k = 0;
-    for (auto _ : state) {
-        const std::string line = "f" + std::to_string(k++ % 1000) + "[x] = x^2+1";
-        benchmark::DoNotOptimize(parser.eval_exp(line.c_str(), true, false));
-    }
+    declare_lines(state, "f", "[x] = x^2+1", false, &Parser::delete_all_funcs);
 }
 BENCHMARK(BM_line_reused_function);
 
@@ -92,8 +76,8 @@ void BM_line_among_variables(benchmark::State &state) {
 BENCHMARK(BM_line_among_variables)->Arg(2)->Arg(8000);
 
 // Declaring range(0) variables (or functions) in a fresh engine, as loading a document does.
-void BM_declare_variables(benchmark::State &state) {
-    const auto lines = numbered_lines("v", " = 3", static_cast<int>(state.range(0)));
+void declare_all(benchmark::State &state, const char *head, const char *tail) {
+    const auto lines = numbered_lines(head, tail, static_cast<int>(state.range(0)));
     for (auto _ : state) {
         Parser parser("", "");
         for (const auto &line : lines) parser.eval_exp(line.c_str(), true, false);
@@ -102,29 +86,22 @@ void BM_declare_variables(benchmark::State &state) {
         static_cast<double>(state.range(0)),
         benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }
+
+void BM_declare_variables(benchmark::State &state) {
+    declare_all(state, "v", " = 3");
+}
 BENCHMARK(BM_declare_variables)
-    ->Arg(1000)
-    ->Arg(2000)
-    ->Arg(4000)
-    ->Arg(8000)
+    ->RangeMultiplier(2)
+    ->Range(1000, 8000)
     ->Arg(10000)
     ->Unit(benchmark::kMillisecond);
 
 void BM_declare_functions(benchmark::State &state) {
-    const auto lines = numbered_lines("f", "[x] = x^2+1", static_cast<int>(state.range(0)));
-    for (auto _ : state) {
-        Parser parser("", "");
-        for (const auto &line : lines) parser.eval_exp(line.c_str(), true, false);
-    }
-    state.counters["per name"] = benchmark::Counter(
-        static_cast<double>(state.range(0)),
-        benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+    declare_all(state, "f", "[x] = x^2+1");
 }
 BENCHMARK(BM_declare_functions)
-    ->Arg(1000)
-    ->Arg(2000)
-    ->Arg(4000)
-    ->Arg(8000)
+    ->RangeMultiplier(2)
+    ->Range(1000, 8000)
     ->Arg(10000)
     ->Unit(benchmark::kMillisecond);
 

@@ -17,8 +17,9 @@
 
 namespace {
 
-// Declarations, calls and plain arithmetic, cycling through the kinds a document holds.
-std::string mixed_text(int lines) {
+// Declarations, calls and plain arithmetic, cycling through the kinds a document holds; for
+// bc (`bc`) with its own form of a function and plain line ends.
+std::string mixed_text(int lines, bool bc = false) {
     std::string text;
     for (int i = 0; i < lines; ++i) {
         const std::string n = std::to_string(i);
@@ -27,10 +28,12 @@ std::string mixed_text(int lines) {
                 text += "v" + n + " = " + n + "/7";
                 break;
             case 1:
-                text += "f" + n + "[x] = x^2+" + n;
+                text += bc ? "define f" + n + "(x) { return (x^2+" + n + "); }"
+                           : "f" + n + "[x] = x^2+" + n;
                 break;
             case 2:
-                text += "f" + std::to_string(i - 1) + "[v" + std::to_string(i - 2) + "]";
+                text += "f" + std::to_string(i - 1) + (bc ? "(v" : "[v") + std::to_string(i - 2) +
+                        (bc ? ")" : "]");
                 break;
             case 3:
                 text += "(1.5+" + n + ")*3-2/7";
@@ -39,7 +42,7 @@ std::string mixed_text(int lines) {
                 text += "v" + std::to_string(i - 4) + "*2+1";
                 break;
         }
-        text += "\r\n";
+        text += bc ? "\n" : "\r\n";
     }
     return text;
 }
@@ -52,33 +55,6 @@ void BM_text_lines(benchmark::State &state) {
         lines, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }
 BENCHMARK(BM_text_lines)->Arg(500)->Arg(2000)->Arg(10000)->Unit(benchmark::kMillisecond);
-
-// The same text for bc -l, the peer on a desktop: functions as bc defines them.
-std::string bc_text(int lines) {
-    std::string text;
-    for (int i = 0; i < lines; ++i) {
-        const std::string n = std::to_string(i);
-        switch (i % 5) {
-            case 0:
-                text += "v" + n + " = " + n + "/7";
-                break;
-            case 1:
-                text += "define f" + n + "(x) { return (x^2+" + n + "); }";
-                break;
-            case 2:
-                text += "f" + std::to_string(i - 1) + "(v" + std::to_string(i - 2) + ")";
-                break;
-            case 3:
-                text += "(1.5+" + n + ")*3-2/7";
-                break;
-            default:
-                text += "v" + std::to_string(i - 4) + "*2+1";
-                break;
-        }
-        text += "\n";
-    }
-    return text;
-}
 
 double child_seconds() {
     rusage usage{};
@@ -93,7 +69,7 @@ void BM_bc_lines(benchmark::State &state) {
     const std::string path = (std::filesystem::temp_directory_path() /
                               ("quindar-bench-bc-" + std::to_string(::getpid()) + ".bc"))
                                  .string();
-    std::ofstream(path) << bc_text(lines);
+    std::ofstream(path) << mixed_text(lines, true);
     const std::string command = "bc -l < " + path + " > /dev/null 2>&1";
     for (auto _ : state) {
         const double before = child_seconds();

@@ -13,6 +13,7 @@
 #include <cstring>
 #include <functional>
 #include <random>
+#include <sstream>
 #include <string>
 
 #include "exact_arithmetic.h"
@@ -67,6 +68,37 @@ const Operator kOperators[] = {
 
 bool same_bits(double x, double y) {
     return std::memcmp(&x, &y, sizeof x) == 0;
+}
+
+// Today's road for a function of one real: the operand into the decimal layer with a zero
+// imaginary part, the layer's operation, the parts back.
+template <class Operation>
+complex unary_road(double x, Operation operation) {
+    MapmNumber ar, ai, rr, ri;
+    Mathematics::SetMapmValue(x, &ar);
+    Mathematics::SetMapmValue(0.0, &ai);
+    m_apm_set_zero(&rr);
+    m_apm_set_zero(&ri);
+    operation(&rr, &ri, &ar, &ai);
+    return complex{static_cast<double>(Mathematics::GetMapmValue(&rr)),
+                   static_cast<double>(Mathematics::GetMapmValue(&ri))};
+}
+
+// Counts a result that differs from the road's in any bit; the first ten are shown.
+void note_mismatch(const complex &fast, const complex &road, const std::string &what,
+                   long &mismatches) {
+    if (same_bits(fast.real, road.real) && same_bits(fast.imag, road.imag)) return;
+    if (++mismatches > 10) return;
+    std::ostringstream text;
+    text << std::hexfloat << what << ": fast (" << fast.real << ", " << fast.imag << "), decimal ("
+         << road.real << ", " << road.imag << ")";
+    ADD_FAILURE() << text.str();
+}
+
+std::string hex(double x) {
+    std::ostringstream text;
+    text << std::hexfloat << x;
+    return text.str();
 }
 
 long pairs_to_draw(long fallback) {
@@ -142,15 +174,10 @@ TEST_P(ExactArithmetic, AgreesWithTheDecimalRoadBitForBit) {
         complex fast;
         if (!op.fast(a, b, fast)) continue;
         ++decided;
-        const complex road = decimal_road(a, b, op.road);
-        if (!same_bits(fast.real, road.real) || !same_bits(fast.imag, road.imag)) {
-            if (++mismatches <= 10) {
-                ADD_FAILURE() << std::hexfloat << "(" << a.real << ", " << a.imag << ") " << op.name
-                              << " (" << b.real << ", " << b.imag << "): integers (" << fast.real
-                              << ", " << fast.imag << "), decimal (" << road.real << ", "
-                              << road.imag << ")";
-            }
-        }
+        note_mismatch(fast, decimal_road(a, b, op.road),
+                      "(" + hex(a.real) + ", " + hex(a.imag) + ") " + op.name + " (" + hex(b.real) +
+                          ", " + hex(b.imag) + ")",
+                      mismatches);
     }
     EXPECT_EQ(mismatches, 0);
     // Most pairs lie where the integers decide; the rest took the decimal road.
@@ -181,18 +208,9 @@ TEST(ExactSquareRoot, AgreesWithTheDecimalRoadBitForBit) {
         complex fast;
         if (!exact::complex_sqrt({x, 0.0}, fast)) continue;
         ++decided;
-        MapmNumber ar, ai, rr, ri;
-        Mathematics::SetMapmValue(x, &ar);
-        Mathematics::SetMapmValue(0.0, &ai);
-        m_apmc_sqrt(&rr, &ri, 14, &ar, &ai);
-        const complex road{static_cast<double>(Mathematics::GetMapmValue(&rr)),
-                           static_cast<double>(Mathematics::GetMapmValue(&ri))};
-        if (!same_bits(fast.real, road.real) || !same_bits(fast.imag, road.imag)) {
-            if (++mismatches <= 10)
-                ADD_FAILURE() << std::hexfloat << "SQRT " << x << ": integers (" << fast.real
-                              << ", " << fast.imag << "), decimal (" << road.real << ", "
-                              << road.imag << ")";
-        }
+        const complex road = unary_road(
+            x, [](M_APM rr, M_APM ri, M_APM ar, M_APM ai) { m_apmc_sqrt(rr, ri, 14, ar, ai); });
+        note_mismatch(fast, road, "SQRT " + hex(x), mismatches);
     }
     EXPECT_EQ(mismatches, 0);
     EXPECT_GT(decided, draws / 2);
@@ -230,22 +248,10 @@ TEST(ExactPower, AgreesWithTheDecimalRoadBitForBit) {
             continue;
         }
         ++decided;
-        MapmNumber ar, ai, br, bi, rr, ri;
-        Mathematics::SetMapmValue(base, &ar);
-        Mathematics::SetMapmValue(0.0, &ai);
-        Mathematics::SetMapmValue(exponent, &br);
-        Mathematics::SetMapmValue(0.0, &bi);
-        m_apm_set_zero(&rr);
-        m_apm_set_zero(&ri);
-        m_apmc_pow(&rr, &ri, 14, &ar, &ai, &br, &bi);
-        const complex road{static_cast<double>(Mathematics::GetMapmValue(&rr)),
-                           static_cast<double>(Mathematics::GetMapmValue(&ri))};
-        if (!same_bits(fast.real, road.real) || !same_bits(fast.imag, road.imag)) {
-            if (++mismatches <= 10)
-                ADD_FAILURE() << std::hexfloat << base << " ^ " << exponent << ": binary ("
-                              << fast.real << ", " << fast.imag << "), decimal (" << road.real
-                              << ", " << road.imag << ")";
-        }
+        const complex road = decimal_road({base, 0.0}, {exponent, 0.0},
+                                          [](M_APM rr, M_APM ri, M_APM ar, M_APM ai, M_APM br,
+                                             M_APM bi) { m_apmc_pow(rr, ri, 14, ar, ai, br, bi); });
+        note_mismatch(fast, road, hex(base) + " ^ " + hex(exponent), mismatches);
     }
     EXPECT_EQ(mismatches, 0);
     EXPECT_GT(decided, positive / 2);
@@ -277,18 +283,9 @@ TEST(ExactLogarithm, AgreesWithTheDecimalRoadBitForBit) {
             continue;
         }
         ++decided;
-        MapmNumber ar, ai, rr, ri;
-        Mathematics::SetMapmValue(x, &ar);
-        Mathematics::SetMapmValue(0.0, &ai);
-        m_apmc_log(&rr, &ri, 14, &ar, &ai);
-        const complex road{static_cast<double>(Mathematics::GetMapmValue(&rr)),
-                           static_cast<double>(Mathematics::GetMapmValue(&ri))};
-        if (!same_bits(fast.real, road.real) || !same_bits(fast.imag, road.imag)) {
-            if (++mismatches <= 10)
-                ADD_FAILURE() << std::hexfloat << "LN " << x << ": binary (" << fast.real << ", "
-                              << fast.imag << "), decimal (" << road.real << ", " << road.imag
-                              << ")";
-        }
+        const complex road = unary_road(
+            x, [](M_APM rr, M_APM ri, M_APM ar, M_APM ai) { m_apmc_log(rr, ri, 14, ar, ai); });
+        note_mismatch(fast, road, "LN " + hex(x), mismatches);
     }
     EXPECT_EQ(mismatches, 0);
     EXPECT_GT(decided, draws / 3);
@@ -321,27 +318,19 @@ TEST(ExactSine, AgreesWithTheDecimalRoadBitForBit) {
             continue;
         }
         ++decided;
-        MapmNumber ar, ai, rr, ri;
-        Mathematics::SetMapmValue(x, &ar);
-        Mathematics::SetMapmValue(0.0, &ai);
-        if (degrees) {
-            // The engine's angle: the operand times pi / 180 in the decimal layer.
-            MapmNumber factor, part = ar;
-            m_apm_set_string(&factor, "0.017453292519943295769236907684886127134428718885417");
-            m_apm_multiply(&ar, &part, &factor);
-        }
-        if (cosine)
-            m_apmc_cos(&rr, &ri, 14, &ar, &ai);
-        else
-            m_apmc_sin(&rr, &ri, 14, &ar, &ai);
-        const complex road{static_cast<double>(Mathematics::GetMapmValue(&rr)),
-                           static_cast<double>(Mathematics::GetMapmValue(&ri))};
-        if (!same_bits(fast.real, road.real) || !same_bits(fast.imag, road.imag)) {
-            if (++mismatches <= 10)
-                ADD_FAILURE() << std::hexfloat << (cosine ? "COS " : "SIN ") << x << ": binary ("
-                              << fast.real << ", " << fast.imag << "), decimal (" << road.real
-                              << ", " << road.imag << ")";
-        }
+        const complex road = unary_road(x, [&](M_APM rr, M_APM ri, M_APM ar, M_APM ai) {
+            if (degrees) {
+                // The engine's angle: the operand times pi / 180 in the decimal layer.
+                MapmNumber factor, part = *ar;
+                m_apm_set_string(&factor, "0.017453292519943295769236907684886127134428718885417");
+                m_apm_multiply(ar, &part, &factor);
+            }
+            if (cosine)
+                m_apmc_cos(rr, ri, 14, ar, ai);
+            else
+                m_apmc_sin(rr, ri, 14, ar, ai);
+        });
+        note_mismatch(fast, road, (cosine ? "COS " : "SIN ") + hex(x), mismatches);
     }
     EXPECT_EQ(mismatches, 0);
     EXPECT_GT(decided, draws / 3);
