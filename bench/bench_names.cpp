@@ -91,8 +91,10 @@ void BM_declare_variables(benchmark::State &state) {
     declare_all(state, "v", " = 3");
 }
 BENCHMARK(BM_declare_variables)
-    ->RangeMultiplier(2)
-    ->Range(1000, 8000)
+    ->Arg(1000)
+    ->Arg(2000)
+    ->Arg(4000)
+    ->Arg(8000)
     ->Arg(10000)
     ->Unit(benchmark::kMillisecond);
 
@@ -100,8 +102,10 @@ void BM_declare_functions(benchmark::State &state) {
     declare_all(state, "f", "[x] = x^2+1");
 }
 BENCHMARK(BM_declare_functions)
-    ->RangeMultiplier(2)
-    ->Range(1000, 8000)
+    ->Arg(1000)
+    ->Arg(2000)
+    ->Arg(4000)
+    ->Arg(8000)
     ->Arg(10000)
     ->Unit(benchmark::kMillisecond);
 
