@@ -17,13 +17,13 @@ namespace {
 
 __extension__ typedef unsigned __int128 Wide;
 
-constexpr mpfr_prec_t kBits = 160;
-// Powers of ten up to 10^68 are exact in 160 bits (5^68 needs 158).
-constexpr int kExactPower = 68;
+constexpr mpfr_prec_t kBits = 128;
+// Powers of ten up to 10^55 are exact in 128 bits (5^55 needs 128).
+constexpr int kExactPower = 55;
 // The decimal layer's own binary values (256 bits and more) lie within this relative
 // distance of the true ones; a decision must hold for them too.
 const double kRoadError = std::ldexp(1.0, -240);
-const double kUnit = std::ldexp(1.0, -kBits + 1);  // a relative rounding error of 160 bits
+const double kUnit = std::ldexp(1.0, -kBits + 1);  // a relative rounding error of kBits bits
 // Beyond this exp(y) leaves the double range the result must reach anyway.
 constexpr double kLargestExponent = 700;
 
@@ -158,7 +158,7 @@ bool degrees_to_binary(const Decimal &angle, mpfr_ptr out) {
     }
     const bool exact = exponent <= kExactPower && exponent >= -kExactPower;
     if (exact) {
-        mpfr_set_z(out, product, MPFR_RNDN);  // exact: below 10^34 < 2^160
+        mpfr_set_z(out, product, MPFR_RNDN);  // exact: below 10^34 < 2^113
         Binary scale;
         mpfr_ui_pow_ui(scale.get(), 10, static_cast<unsigned long>(std::abs(exponent)), MPFR_RNDN);
         if (exponent >= 0)

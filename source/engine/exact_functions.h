@@ -7,7 +7,7 @@
 // roundings but without its long decimals. There the power is M = exp(b L) with L = ln a, each
 // rounded to 17 digits (ties away), and then the phase, which is exactly 0 for a positive real
 // base, leaves (M, 0); the engine rounds M to 15 digits. Here ln a and exp(b L) are computed in
-// 160-bit binary with a known bound on their error; a 17-digit rounding that the bound
+// 128-bit binary with a known bound on their error; a 17-digit rounding that the bound
 // cannot decide (a value too close to a tie) is left to the decimal road, as is every base
 // that is not a positive real, so the digits are always the decimal road's.
 
