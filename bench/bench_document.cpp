@@ -99,6 +99,7 @@ BENCHMARK(BM_LoadDeclarations)
     ->Arg(4000)
     ->Arg(8000)
     ->Arg(10000)
+    ->Arg(100000)
     ->Unit(benchmark::kMillisecond);
 
 }  // namespace
