@@ -91,13 +91,16 @@ bool DocumentFile::ReadFunctions() {
     std::vector<char> list(static_cast<std::size_t>(size) + 1, '\0');
     iniFile->GetFunctionNames(list.data(), static_cast<int>(list.size()), nullptr);
     const std::vector<std::string> names = split_multi_string(list.data(), list.size());
-    const auto valueSize = static_cast<int>(std::max(iniFile->SizeOfLongestLine(), 2L));
-    std::vector<char> value(static_cast<std::size_t>(valueSize), '\0');
+    // Each value as a buffer of the longest line holds it, all read in one pass.
+    const auto valueSize = static_cast<std::size_t>(std::max(iniFile->SizeOfLongestLine(), 2L));
+    const auto values = iniFile->GetFunctionValues(names, nullptr);
     AutoDeclare declaring(parser);
     int done = 0;
-    for (const std::string &name : names) {
-        if (iniFile->GetFunctionValue(name.c_str(), value.data(), valueSize, nullptr))
-            parser.add_new_function(name.c_str(), value.data());
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const std::string &name = names[i];
+        const std::string value = values ? (*values)[i].substr(0, valueSize - 1) : std::string();
+        if (!value.empty())
+            parser.add_new_function(name.c_str(), value.c_str());
         else
             Warn(document_message(kMsgFunctionNotLoaded, name.c_str()), kCaptionFunctionManager);
         ++done;

@@ -185,6 +185,12 @@ bool VarFunIniFile::GetFunctionValue(const char *name, char *buffer, int size,
     return true;
 }
 
+std::optional<std::vector<std::string>> VarFunIniFile::GetFunctionValues(
+    const std::vector<std::string> &names, const char *category) {
+    if (!SelectCategory(category)) return std::vector<std::string>(names.size());
+    return ScanFunctionValues(names);
+}
+
 bool VarFunIniFile::IsFunction(const char *name, const char *category) {
     if (!SelectCategory(category) || name == nullptr) return false;
     auto list = SectionList();

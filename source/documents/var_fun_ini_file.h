@@ -75,6 +75,10 @@ public:
     // section's header whose text up to that "=" equals name exactly, wherever it stands
     // further down. True if a non-empty value was found.
     bool GetFunctionValue(const char *name, char *buffer, int size, const char *category = nullptr);
+    // The values GetFunctionValue finds for each of names, in one reading of the file: an
+    // empty text where it finds none. Nothing if the file could not be read.
+    std::optional<std::vector<std::string>> GetFunctionValues(const std::vector<std::string> &names,
+                                                              const char *category = nullptr);
     // True if name equals an entry of the section's list, or the entry's part before its "[",
     // without regard to case.
     bool IsFunction(const char *name, const char *category = nullptr);

@@ -3,6 +3,7 @@
 #include "decimal_passage.h"
 
 #include <cmath>
+#include <cstring>
 
 namespace quindar::decimal_passage {
 
@@ -23,10 +24,35 @@ constexpr Wide power_of(unsigned base, int n) {
     return result;
 }
 
+// 5^22 lies below 2^52: the powers of five fit one machine word.
+struct PowersOfFive {
+    std::uint64_t value[kLargestScale + 1];
+    constexpr PowersOfFive() : value() {
+        for (int k = 0; k <= kLargestScale; ++k)
+            value[k] = static_cast<std::uint64_t>(power_of(5, k));
+    }
+};
+constexpr PowersOfFive kPowersOfFive;
+
+// 10^(k - 9) as doubles, k = 0 .. 23: the decades of the operand range, to place a value
+// in its decade before any digit is made (the ones below 1 are near, not exact; the digits
+// put a wrong guess right).
+struct Decades {
+    double value[24];
+    constexpr Decades() : value() {
+        for (int k = 0; k < 24; ++k) {
+            double power = 1;
+            for (int j = 0; j < (k > 9 ? k - 9 : 9 - k); ++j) power *= 10;
+            value[k] = k >= 9 ? power : 1 / power;
+        }
+    }
+};
+constexpr Decades kDecades;
+
 // mantissa * 2^binary * 10^scale rounded to an integer, ties to even; the exact product
 // mantissa * 5^scale needs at most 105 bits.
 Wide scaled(std::uint64_t mantissa, int binary, int scale) {
-    const Wide product = static_cast<Wide>(mantissa) * power_of(5, scale);
+    const Wide product = static_cast<Wide>(mantissa) * kPowersOfFive.value[scale];
     const int shift = binary + scale;
     if (shift >= 0) return shift > 20 ? ~Wide{0} : product << shift;
     const int right = -shift;
@@ -40,17 +66,23 @@ Wide scaled(std::uint64_t mantissa, int binary, int scale) {
 
 }  // namespace
 
-bool operand_digits(double value, bool &negative, std::uint64_t &coefficient, int &exponent) {
-    if (!std::isfinite(value) || value == 0) return false;
-    negative = std::signbit(value);
+bool operand_significand(double value, bool &negative, std::uint64_t &significand, int &exponent) {
     const double magnitude = std::fabs(value);
-    if (magnitude < 1e-9 || magnitude >= 1e14) return false;
-    int binary = 0;
-    const double fraction = std::frexp(magnitude, &binary);
-    const auto mantissa = static_cast<std::uint64_t>(std::ldexp(fraction, 53));
-    binary -= 53;
-    // A first guess of the decimal exponent, put right by the digits it gives.
-    int scale = 13 - static_cast<int>(std::floor(std::log10(magnitude)));
+    // Also false for NaN, which compares false.
+    if (!(magnitude >= 1e-9 && magnitude < 1e14)) return false;
+    negative = std::signbit(value);
+    std::uint64_t bits;
+    std::memcpy(&bits, &magnitude, sizeof bits);
+    // A normal double: the hidden bit above 52 stored ones, the exponent biased by 1075 for
+    // a mantissa read as an integer.
+    const std::uint64_t mantissa =
+        (bits & ((std::uint64_t{1} << 52) - 1)) | (std::uint64_t{1} << 52);
+    const int binary = static_cast<int>(bits >> 52) - 1075;
+    // The decade from the binary exponent (off by one at most: 1233 / 4096 lies just below
+    // log10(2)), then put right by the table; the digits it gives settle what is left.
+    int decade = ((binary + 52) * 1233) >> 12;
+    if (decade + 10 < 24 && magnitude >= kDecades.value[decade + 10]) ++decade;
+    int scale = 13 - decade;
     for (int tries = 0; tries < 3; ++tries) {
         if (scale < 0 || scale > kLargestScale) return false;
         const Wide digits = scaled(mantissa, binary, scale);
@@ -59,18 +91,21 @@ bool operand_digits(double value, bool &negative, std::uint64_t &coefficient, in
         } else if (digits < kLowest14) {
             ++scale;
         } else {
-            auto result = static_cast<std::uint64_t>(digits);
-            int power = -scale;
-            while (power < 0 && result % 10 == 0) {
-                result /= 10;
-                ++power;
-            }
-            coefficient = result;
-            exponent = power;
+            significand = static_cast<std::uint64_t>(digits);
+            exponent = -scale;
             return true;
         }
     }
     return false;
+}
+
+bool operand_digits(double value, bool &negative, std::uint64_t &coefficient, int &exponent) {
+    if (!operand_significand(value, negative, coefficient, exponent)) return false;
+    while (exponent < 0 && coefficient % 10 == 0) {
+        coefficient /= 10;
+        ++exponent;
+    }
+    return true;
 }
 
 bool read_digits(bool negative, std::uint64_t coefficient, int exponent, long double &result) {

@@ -14,6 +14,8 @@ namespace quindar::decimal_passage {
 // the trailing zeros behind the point dropped as in its general-format text. False for 0,
 // infinities, NaN and magnitudes outside 1e-9 to 1e14, which take the text.
 bool operand_digits(double value, bool &negative, std::uint64_t &coefficient, int &exponent);
+// The same before the trailing zeros are dropped: a significand of exactly 14 digits.
+bool operand_significand(double value, bool &negative, std::uint64_t &significand, int &exponent);
 
 // The correctly rounded long double of (-1)^negative * coefficient * 10^exponent, where one
 // exact division or none gives it. False where the text must be read instead.

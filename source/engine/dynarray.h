@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <climits>
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <stdexcept>
 #include <utility>
@@ -44,6 +45,10 @@ namespace quindar {
 // - `insert` beyond the last slot grows by whole chunks until that slot exists; nothing
 //   needs to shift there.
 // - `add(nullptr)` stores nothing and returns -1; `replace` of an element by itself keeps it.
+//
+// `layout()` changes with every operation that moves, replaces or removes an element, never
+// with `add`, which only fills an empty slot: an index over the elements (NameIndex) catches
+// up with added elements alone and rebuilds only when the layout changed.
 template <class T, int chunk>
 class DynArray {
     static_assert(chunk > 0, "a DynArray grows by a positive number of slots");
@@ -68,6 +73,9 @@ public:
         std::swap(compact_on_remove, other.compact_on_remove);
         std::swap(jump_on_error, other.jump_on_error);
         std::swap(hook_, other.hook_);
+        std::swap(first_empty_, other.first_empty_);
+        // Both are new layouts to anything that indexed either array.
+        layout_ = other.layout_ = std::max(layout_, other.layout_) + 1;
     }
     friend void swap(DynArray &a, DynArray &b) noexcept { a.swap(b); }
 
@@ -78,22 +86,28 @@ public:
     int size() const { return static_cast<int>(data_.size()); }
     int index() const { return index_; }
     int count() const { return count_; }
+    std::uint64_t layout() const { return layout_; }
+    // Tells indexes over the array that its elements changed in place (a renamed element).
+    void touch() { changed(); }
 
     // Stores `p` in the first empty slot and returns that slot; with none empty, grows by a
     // chunk and stores at the old size.
     int add(T *p) {
         if (p == nullptr) return -1;
-        int slot = 0;
+        // Slots below first_empty_ are filled: a run of adds costs no rescan of the array.
+        int slot = first_empty_;
         while (slot < size() && data_[slot]) ++slot;
         if (slot == size()) grow(chunk);
         data_[slot].reset(p);
         ++count_;
+        first_empty_ = slot + 1;
         return slot;
     }
 
     // Grows by `n` slots, keeping the contents. Returns the new size.
     int addchunk(int n) {
         if (n > 0) grow(static_cast<std::size_t>(n));
+        changed();
         return size();
     }
 
@@ -103,6 +117,7 @@ public:
         if (i == -1) i = index_;
         if (i < 0) return fail();
         if (i >= size()) grow(static_cast<std::size_t>(i) + 1);
+        changed();
         put(i, p);
         return true;
     }
@@ -112,6 +127,7 @@ public:
     bool insert(T *p, int i) {
         if (i == -1) i = index_;
         if (i < 0) return fail();
+        changed();
         if (i >= size()) {
             const std::size_t missing = static_cast<std::size_t>(i) - data_.size() + 1;
             grow((missing + chunk - 1) / chunk * chunk);
@@ -131,6 +147,7 @@ public:
         if (i == -1) i = index_;
         if (!in_range(i)) return fail();
         if (!data_[i]) return false;
+        changed();
         data_[i].reset();
         --count_;
         if (compact_on_remove) {
@@ -155,6 +172,7 @@ public:
         if (i == -1) i = index_;
         if (!in_range(i)) return fail();
         if (!data_[i]) return false;
+        changed();
         data_[i].reset();
         --count_;
         const int last = maxfullindex();
@@ -228,6 +246,7 @@ public:
     void compact(int from, int to) {
         if (to == -1) to = count_;
         if (from < 0 || from >= to || to > count_ || data_[from]) return;
+        changed();
         // `from` is empty, so at most size - 1 slots are filled and `to` is a real slot.
         std::rotate(data_.begin() + from, data_.begin() + from + 1, data_.begin() + to + 1);
     }
@@ -239,6 +258,7 @@ public:
         const auto tail = data_.end() - chunk;
         if (std::any_of(tail, data_.end(), [](const auto &slot) { return slot != nullptr; }))
             return;
+        changed();
         data_.erase(tail, data_.end());
     }
 
@@ -249,6 +269,7 @@ public:
             Exception(kDynArrayIndexOutOfRange);
             return;
         }
+        changed();
         data_[a].swap(data_[b]);
     }
 
@@ -260,6 +281,7 @@ public:
             Exception(kDynArrayIndexOutOfRange);
             return;
         }
+        changed();
         const auto first = data_.begin();
         if (from < to)
             std::rotate(first + from, first + from + 1, first + to + 1);
@@ -269,6 +291,9 @@ public:
 
     // Deletes every element and returns to one chunk of empty slots, cursor on 0.
     void flush() {
+        // Already so: a map run empties its lists at every point.
+        if (count_ == 0 && index_ == 0 && data_.size() == static_cast<std::size_t>(chunk)) return;
+        changed();
         data_.clear();
         data_.resize(chunk);
         index_ = 0;
@@ -281,6 +306,12 @@ public:
 
 private:
     bool in_range(int i) const { return i >= 0 && i < size(); }
+
+    // Anything but an add: indexes rebuild, and the search for an empty slot starts over.
+    void changed() {
+        ++layout_;
+        first_empty_ = 0;
+    }
 
     // Raises an index error; what the operation returns when that does not jump.
     bool fail() const {
@@ -307,6 +338,8 @@ private:
     int index_ = 0;
     int count_ = 0;
     const MessageHook *hook_ = nullptr;
+    std::uint64_t layout_ = 0;
+    int first_empty_ = 0;
 };
 
 }  // namespace quindar

@@ -23,6 +23,10 @@ struct LibraryDefinition {
 class FunctionLibrary {
 public:
     virtual ~FunctionLibrary() = default;
+    // A new line is evaluated: a reader that keeps what it read may look at the file again.
+    virtual void new_line() {}
+    // False when no category of the file can hold name, so a search can be spared.
+    virtual bool may_hold(const char * /*name*/) { return true; }
     // The categories of the file, in file order.
     virtual std::vector<std::string> categories() = 0;
     // Makes category the one that find_in_category searches.

@@ -22,6 +22,7 @@
 #include "function_library.h"
 #include "mathematics.h"
 #include "message_hook.h"
+#include "name_index.h"
 #include "precform.h"
 #include "statistics.h"
 #include "variable.h"
@@ -467,6 +468,15 @@ private:
     bool mapm_free = true;
 
     MessageHook message_hook_storage;
+
+    // Hash look-ups of the two lists by name: variables by name, functions by short name and
+    // by full name.
+    static const std::string &variable_key(const Variable &v) { return v.name; }
+    static const std::string &function_short_key(const Function &f) { return f.short_name; }
+    static const std::string &function_full_key(const Function &f) { return f.full_name; }
+    NameIndex<Variable, 10> variable_index{&variable_key};
+    NameIndex<Function, 10> function_short_index{&function_short_key};
+    NameIndex<Function, 10> function_full_index{&function_full_key};
 };
 
 }  // namespace quindar

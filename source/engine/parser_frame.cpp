@@ -56,6 +56,8 @@ const char *Parser::eval_exp(const char *text, complex &result, bool silentMode,
     assignment_made = false;
     function_declared = false;
     splices = 0;
+    if (library) library->new_line();
+    if (user_library) user_library->new_line();
     std::ostringstream answer;
     init_number_stream(answer, *answer_format);
     ++recovery_points;

@@ -45,14 +45,10 @@ int Parser::find_function(const char *name) {
     const bool full = holds_call_brackets(name);
     std::string wanted = name;
     if (full) replace_brackets(wanted.data(), 1);
-    for (int i = 0; i < functions.size(); ++i) {
-        const Function *f = functions[i];
-        if (f != nullptr && (full ? f->full_name : f->short_name) == wanted) {
-            functions.reset(i);
-            return i;
-        }
-    }
-    return -1;
+    const int index = full ? function_full_index.find(functions, wanted)
+                           : function_short_index.find(functions, wanted);
+    if (index >= 0) functions.reset(index);
+    return index;
 }
 
 bool Parser::user_function_full_name(const char *name, std::string &fullName) {

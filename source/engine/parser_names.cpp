@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 // Library functions: the two library files, and the look-up of a name in them, category by
-// category, system library first. The engine keeps nothing of a file: a change counts at once.
+// category, system library first. The engine keeps nothing of a file; a reader may, and is told
+// of each new line so that a change counts at the next one.
 #include <filesystem>
 #include <fstream>
 
@@ -23,6 +24,7 @@ std::unique_ptr<Function> function_in_category(FunctionLibrary *file, const char
 std::unique_ptr<Function> search_categories(
     FunctionLibrary &file, const char *name,
     std::unique_ptr<Function> (Parser::*lookup)(const char *), Parser &parser) {
+    if (!file.may_hold(name)) return nullptr;
     for (const std::string &category : file.categories()) {
         file.set_category(category);
         if (auto found = (parser.*lookup)(name)) return found;

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 // Workers of the power, factorial and relational operators; the embedded functions
 // and the map solver call the same ones, so a line and its map agree.
+#include "exact_functions.h"
 #include "mapm_complex.h"
 #include "parser.h"
 #include "parser_complex_worker.h"
@@ -13,6 +14,8 @@ constexpr int kPlaces = 14;
 }
 
 complex Parser::_pow(const complex &a, const complex &b) {
+    // A positive real base: its two roundings decided in binary where a bound decides them.
+    if (complex power; exact::real_power(a, b, power)) return power;
     // 0 to a power that is not positive fails and leaves the results at 0.
     return complex_pair_worker(
         a, b, [this] { m_apmc_pow(mapm_r1, mapm_r2, kPlaces, mapm_a, mapm_b, mapm_c, mapm_d); });

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <sstream>
 
+#include "exact_functions.h"
 #include "mapm_complex.h"
 #include "mapm_functions.h"
 #include "number_text.h"
@@ -46,6 +47,13 @@ std::string Parser::value_text(const complex &z) {
 }
 
 complex Parser::_trig_func(const complex &z, int fn) {
+    // The sine and cosine of a real: decided in binary where a bound decides them.
+    if (z.imag == 0) {
+        const bool sine = fn == internal_function("SIN");
+        if (complex value; (sine || fn == internal_function("COS")) &&
+                           exact::real_sine(z.real, !sine, angle_mode == 0, value))
+            return value;
+    }
     long double re = z.real, im = z.imag;
     if (re > 1e80L && im > 1e80L) {
         mathlib_exception(kTooLarge, fn, nullptr);

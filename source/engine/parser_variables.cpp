@@ -26,14 +26,9 @@ Variable *Parser::variable_named(const char *name) {
 
 int Parser::find_variable(const char *name) {
     if (name == nullptr || *name == '\0') return -1;
-    for (int i = 0; i < variables.size(); ++i) {
-        const Variable *variable = variables[i];
-        if (variable != nullptr && variable->name == name) {
-            variables.reset(i);
-            return i;
-        }
-    }
-    return -1;
+    const int index = variable_index.find(variables, name);
+    if (index >= 0) variables.reset(index);
+    return index;
 }
 
 int Parser::max_var_length() {

@@ -3,6 +3,8 @@
 // Workers of the general functions that compute through the complex decimal layer. The
 // operators, the embedded functions and the map solver share them.
 #include "embedded_tables.h"
+#include "exact_arithmetic.h"
+#include "exact_functions.h"
 #include "mapm_complex.h"
 #include "mapm_functions.h"
 #include "parser.h"
@@ -24,6 +26,8 @@ constexpr const char *kRadiansPerDegree =
 }  // namespace
 
 complex Parser::_sqrt(const complex &z) {
+    // The root of a real on integers, where they give the decimal layer's digits.
+    if (complex root; exact::complex_sqrt(z, root)) return root;
     return complex_worker(z, [this] { m_apmc_sqrt(mapm_r1, mapm_r2, kPlaces, mapm_a, mapm_b); });
 }
 
@@ -32,6 +36,7 @@ complex Parser::_log(const complex &z) {
         mathlib_exception(kOfZero, internal_function("LN"), nullptr);
         return complex{};
     }
+    if (complex logarithm; exact::real_log(z, logarithm)) return logarithm;
     return complex_worker(z, [this] { m_apmc_log(mapm_r1, mapm_r2, kPlaces, mapm_a, mapm_b); });
 }
 

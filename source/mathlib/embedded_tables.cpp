@@ -3,6 +3,7 @@
 #include "embedded_tables.h"
 
 #include <strings.h>
+#include <cctype>
 
 #include <cstring>
 
@@ -183,8 +184,12 @@ const char *const kMessages[kMathlibMessageCount] = {
 
 int function_index(const char *name) {
     if (name == nullptr) return -1;
+    // Every line asks this of each of its names: the first letter spares most comparisons.
+    const int first = std::tolower(static_cast<unsigned char>(name[0]));
     for (int i = 0; i < kEmbeddedFunctionCount; ++i)
-        if (strcasecmp(kEmbeddedFunctions[i].name, name) == 0) return i;
+        if (std::tolower(static_cast<unsigned char>(kEmbeddedFunctions[i].name[0])) == first &&
+            strcasecmp(kEmbeddedFunctions[i].name, name) == 0)
+            return i;
     return -1;
 }
 

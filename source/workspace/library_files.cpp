@@ -15,10 +15,11 @@ namespace quindar {
 
 namespace {
 
-// The file is read again at every search, so an edit counts for the next line. Scanning it
-// category by category is what costs, so answers are kept while the file's bytes stay the same
-// and nothing was reported while reading it. A search asks for the categories first, which
-// compares the bytes once for the finds in its categories that follow.
+// Scanning the file category by category is what costs, so it is read into an index of its
+// names once, and answers are kept while the file's bytes stay the same and nothing was
+// reported while reading it. Whether they still are is asked once per line: a stat that
+// vouches for the file (same file, size and times, and old enough that an edit must have
+// moved its time) saves reading it; otherwise its bytes are read and compared.
 class VarFunLibrary final : public FunctionLibrary {
 public:
     VarFunLibrary(const std::string &filePath, WarningHook warn)
@@ -29,13 +30,17 @@ public:
                    show_warning(outer, text, caption);
                }) {}
 
+    void new_line() override { checked = false; }
+
+    bool may_hold(const char *name) override {
+        refresh();
+        return !index || !lookup_holders(name).empty();
+    }
+
     std::vector<std::string> categories() override {
-        searching = unchanged();
-        if (searching && known_categories) return *known_categories;
-        warned = false;
-        std::vector<std::string> read = library_categories(file);
-        if (!warned) known_categories = read;
-        return read;
+        refresh();
+        if (index) return index->categories();
+        return library_categories(file);
     }
 
     void set_category(const std::string &category) override {
@@ -44,45 +49,66 @@ public:
     }
 
     std::optional<LibraryDefinition> find_in_category(const char *name) override {
+        refresh();
+        // The usual answer, for the names of variables and the user's own functions. A search
+        // asks for one name in each category in turn: its holders are looked up once.
+        if (index && lookup_holders(name).count(current_category) == 0) return std::nullopt;
         auto key = std::make_pair(current_category, std::string(name));
-        std::optional<LibraryDefinition> answer;
-        const auto known = (searching || unchanged()) ? answers.find(key) : answers.end();
-        if (known != answers.end()) {
-            answer = known->second;
-        } else {
-            warned = false;
-            if (auto found = lib_function_text(file, name))
-                answer = LibraryDefinition{std::move(found->fullName), std::move(found->value)};
-            if (!warned) answers.emplace(std::move(key), answer);
+        if (index) {
+            const auto known = answers.find(key);
+            if (known != answers.end()) return known->second;
         }
-        // The search ends at the first category that holds the name, or after the last one.
-        if (answer || !known_categories || known_categories->empty() ||
-            current_category == known_categories->back())
-            searching = false;
+        warned = false;
+        std::optional<LibraryDefinition> answer;
+        if (auto found = lib_function_text(file, name))
+            answer = LibraryDefinition{std::move(found->fullName), std::move(found->value)};
+        if (index && !warned) answers.emplace(std::move(key), answer);
         return answer;
     }
 
 private:
-    // True when the file holds what it held when the kept answers were read; otherwise they
-    // are dropped. A file that cannot be read keeps nothing.
-    bool unchanged() {
+    const std::unordered_set<std::string> &lookup_holders(const char *name) {
+        if (holders == nullptr || name != holders_name) {
+            holders_name = name;
+            holders = &index->holders(name);
+        }
+        return *holders;
+    }
+
+    // Once per line: reads the file again unless its stamp vouches that it did not change,
+    // and drops the index and the answers when its bytes differ.
+    void refresh() {
+        if (checked) return;
+        checked = true;
+        FileStamp now;
+        now.take(path);
+        if (index && now.vouches_for(stamp)) return;
+        stamp = now;
         std::ifstream in(path, std::ios::binary);
         std::string bytes(std::istreambuf_iterator<char>(in), {});
         const bool readable = in.is_open() && !in.bad();
-        if (readable && bytes == content) return true;
+        if (readable && index && bytes == content) return;
         content = readable ? std::move(bytes) : std::string();
-        known_categories.reset();
         answers.clear();
-        return false;
+        index.reset();
+        holders_name.clear();
+        holders = nullptr;
+        if (!readable) return;
+        warned = false;
+        LibraryIndex read;
+        if (read.read(file) && !warned) index = std::move(read);
     }
 
     std::string path;  // the reader keeps the caller's text
     bool warned = false;
-    bool searching = false;  // the bytes were compared at the start of this search
+    bool checked = false;  // the file was looked at for this line
     VarFunIniFile file;
     std::string current_category;
     std::string content;
-    std::optional<std::vector<std::string>> known_categories;
+    FileStamp stamp;
+    std::optional<LibraryIndex> index;
+    std::string holders_name;  // the name whose holders were last looked up
+    const std::unordered_set<std::string> *holders = nullptr;
     std::map<std::pair<std::string, std::string>, std::optional<LibraryDefinition>> answers;
 };
 

@@ -24,6 +24,8 @@ std::string ToCrLf(std::string_view text) {
 
 void MemoryTextBuffer::SetText(std::string_view newText) {
     text = ToCrLf(newText);
+    tail.clear();
+    tailFrom = 0;
     FindLineStarts();
     selectionStart = selectionEnd = 0;
 }
@@ -32,6 +34,90 @@ void MemoryTextBuffer::FindLineStarts() {
     lineStarts.assign(1, 0);
     for (std::size_t at = text.find('\n'); at != std::string::npos; at = text.find('\n', at + 1))
         lineStarts.push_back(static_cast<int>(at + 1));
+    shiftFrom = lineStarts.size();
+    shift = 0;
+}
+
+const std::string &MemoryTextBuffer::Text() const {
+    if (tailFrom < tail.size()) text.append(tail, tailFrom, std::string::npos);
+    tail.clear();
+    tailFrom = 0;
+    return text;
+}
+
+char MemoryTextBuffer::At(int offset) const {
+    const auto at = static_cast<std::size_t>(offset);
+    return at < text.size() ? text[at] : tail[at - text.size() + tailFrom];
+}
+
+std::string MemoryTextBuffer::Slice(int start, int end) const {
+    std::string result;
+    result.reserve(static_cast<std::size_t>(end - start));
+    for (int at = start; at < end; ++at) result += At(at);
+    return result;
+}
+
+void MemoryTextBuffer::SplitAt(int offset) {
+    const auto at = static_cast<std::size_t>(offset);
+    if (at >= text.size()) {
+        const std::size_t taken = at - text.size();
+        text.append(tail, tailFrom, taken);
+        tailFrom += taken;
+        return;
+    }
+    // Backwards: the part of `text` behind offset goes to the front of the tail.
+    const std::size_t moved = text.size() - at;
+    if (tailFrom >= moved) {
+        tailFrom -= moved;
+        tail.replace(tailFrom, moved, text, at, moved);
+    } else {
+        tail = text.substr(at) + tail.substr(tailFrom);
+        tailFrom = 0;
+    }
+    text.resize(at);
+}
+
+std::size_t MemoryTextBuffer::LineAfter(int offset) const {
+    std::size_t low = 0, high = lineStarts.size();
+    while (low < high) {
+        const std::size_t middle = low + (high - low) / 2;
+        if (StartOf(middle) <= offset)
+            low = middle + 1;
+        else
+            high = middle;
+    }
+    return low;
+}
+
+void MemoryTextBuffer::SettleShift(std::size_t line) {
+    line = std::min(line, lineStarts.size());
+    for (; shiftFrom < line; ++shiftFrom) lineStarts[shiftFrom] += shift;
+}
+
+void MemoryTextBuffer::FollowReplacement(int start, int end, std::string_view inserted) {
+    // Lines that started inside the replaced text go; the breaks inserted bring theirs.
+    const std::size_t first = LineAfter(start);
+    const std::size_t last = LineAfter(end);
+    SettleShift(last);
+    // With nothing pending the lines behind may all be taken into the shift.
+    if (shift == 0) shiftFrom = last;
+    std::vector<int> added;
+    for (std::size_t at = inserted.find('\n'); at != std::string_view::npos;
+         at = inserted.find('\n', at + 1))
+        added.push_back(start + static_cast<int>(at) + 1);
+    const auto firstAt = lineStarts.begin() + static_cast<std::ptrdiff_t>(first);
+    if (added.size() != last - first || !added.empty()) {
+        lineStarts.erase(firstAt, lineStarts.begin() + static_cast<std::ptrdiff_t>(last));
+        lineStarts.insert(lineStarts.begin() + static_cast<std::ptrdiff_t>(first), added.begin(),
+                          added.end());
+        shiftFrom = shiftFrom + added.size() - (last - first);
+    }
+    // Every line behind the replacement moves by the change of length: those already settled
+    // at once, the rest through the shift.
+    const int moved = static_cast<int>(inserted.size()) - (end - start);
+    for (std::size_t line = first + added.size(); line < shiftFrom; ++line)
+        lineStarts[line] += moved;
+    shift += moved;
 }
 
 int MemoryTextBuffer::ClampOffset(int offset) const {
@@ -43,29 +129,28 @@ int MemoryTextBuffer::ClampLine(int line) const {
 }
 
 int MemoryTextBuffer::LineStart(int line) const {
-    return lineStarts[static_cast<std::size_t>(ClampLine(line))];
+    return StartOf(static_cast<std::size_t>(ClampLine(line)));
 }
 
 int MemoryTextBuffer::LineEnd(int line) const {
     line = ClampLine(line);
-    return line + 1 < LineCount() ? lineStarts[static_cast<std::size_t>(line) + 1] - 2 : Length();
+    return line + 1 < LineCount() ? StartOf(static_cast<std::size_t>(line) + 1) - 2 : Length();
 }
 
 std::string MemoryTextBuffer::LineText(int line) const {
     const int start = LineStart(line);
-    return text.substr(static_cast<std::size_t>(start),
-                       static_cast<std::size_t>(LineEnd(line) - start));
+    return Slice(start, LineEnd(line));
 }
 
 std::string MemoryTextBuffer::TextRange(int start, int end) const {
     start = ClampOffset(start);
     end = ClampOffset(end);
     if (start >= end) return {};
-    return text.substr(static_cast<std::size_t>(start), static_cast<std::size_t>(end - start));
+    return Slice(start, end);
 }
 
 bool MemoryTextBuffer::InsideBreak(int offset) const {
-    return offset > 0 && offset < Length() && text[static_cast<std::size_t>(offset) - 1] == '\r';
+    return offset > 0 && offset < Length() && At(offset - 1) == '\r';
 }
 
 void MemoryTextBuffer::GetSelection(int &start, int &end) const {
@@ -90,17 +175,17 @@ void MemoryTextBuffer::SetSelection(int start, int end) {
 }
 
 int MemoryTextBuffer::CaretLine() const {
-    const auto after = std::upper_bound(lineStarts.begin(), lineStarts.end(), selectionStart);
-    return static_cast<int>(after - lineStarts.begin()) - 1;
+    return static_cast<int>(LineAfter(selectionStart)) - 1;
 }
 
 void MemoryTextBuffer::ReplaceSelection(std::string_view replacement) {
     const std::string inserted = ToCrLf(replacement);
-    text.replace(static_cast<std::size_t>(selectionStart),
-                 static_cast<std::size_t>(selectionEnd - selectionStart), inserted);
+    SplitAt(selectionStart);
+    tailFrom += static_cast<std::size_t>(selectionEnd - selectionStart);
+    text += inserted;
+    FollowReplacement(selectionStart, selectionEnd, inserted);
     selectionStart += static_cast<int>(inserted.size());
     selectionEnd = selectionStart;
-    FindLineStarts();
 }
 
 void MemoryTextBuffer::HandleKey(EditorKey key) {

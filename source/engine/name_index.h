@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Quindar developers
+#pragma once
+
+// A hash index from a name to the first slot of a DynArray whose element carries that name,
+// so that a document of thousands of variables and functions looks each one up in constant
+// time instead of scanning the list. The array stays the list: its order, cursor and slots
+// are untouched, the index only follows them.
+//
+// The index follows the array's layout stamp. Added elements are indexed as they come (a
+// document load is a long run of adds); anything that moved, removed or replaced an element
+// rebuilds the index at the next look-up. A name changed in place is not seen unless the
+// array is touched (DynArray::touch); a hit is checked against the element all the same.
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+#include "dynarray.h"
+
+namespace quindar {
+
+template <class T, int chunk>
+class NameIndex {
+public:
+    // The name an element is looked up by.
+    using KeyOf = const std::string &(*)(const T &);
+
+    explicit NameIndex(KeyOf keyOf) : key_of(keyOf) {}
+
+    // The first filled slot whose element's name is exactly `name`, or -1.
+    int find(const DynArray<T, chunk> &array, const std::string &name) {
+        follow(array);
+        const auto found = slots.find(name);
+        if (found == slots.end()) return -1;
+        const T *element = array[found->second];
+        if (element != nullptr && key_of(*element) == name) return found->second;
+        // Changed behind the array's back: read the array afresh once.
+        rebuild(array);
+        const auto again = slots.find(name);
+        return again == slots.end() ? -1 : again->second;
+    }
+
+private:
+    void follow(const DynArray<T, chunk> &array) {
+        if (array.layout() != layout || !dense || array.count() < indexed) {
+            rebuild(array);
+            return;
+        }
+        // Only adds since the last look-up: in a dense array they fill the slots behind it.
+        for (; indexed < array.count(); ++indexed) enter(array, indexed);
+    }
+
+    void rebuild(const DynArray<T, chunk> &array) {
+        slots.clear();
+        slots.reserve(static_cast<std::size_t>(array.count()));
+        for (int i = 0; i < array.size(); ++i) enter(array, i);
+        layout = array.layout();
+        indexed = array.count();
+        dense = array.maxfullindex() + 1 == array.count();
+    }
+
+    void enter(const DynArray<T, chunk> &array, int slot) {
+        const T *element = array[slot];
+        if (element == nullptr) return;
+        // The first slot keeps the name, as a scan of the list would find it.
+        const auto [where, added] = slots.try_emplace(key_of(*element), slot);
+        if (!added && slot < where->second) where->second = slot;
+    }
+
+    KeyOf key_of;
+    std::unordered_map<std::string, int> slots;
+    std::uint64_t layout = ~std::uint64_t{0};
+    int indexed = 0;
+    bool dense = false;
+};
+
+}  // namespace quindar
