@@ -4,7 +4,7 @@
 
 // A hash index from a name to the first slot of a DynArray whose element carries that name,
 // so that a document of thousands of variables and functions looks each one up in constant
-// time instead of scanning the list. The array stays the list: its order, cursor and slots
+// time instead of scanning the list. The array stays the list: its order, cursor and slot_of_name
 // are untouched, the index only follows them.
 //
 // The index follows the array's layout stamp. Added elements are indexed as they come (a
@@ -32,14 +32,14 @@ public:
     // The first filled slot whose element's name is exactly `name`, or -1.
     int find(const DynArray<T, chunk> &array, const std::string &name) {
         follow(array);
-        const auto found = slots.find(name);
-        if (found == slots.end()) return -1;
+        const auto found = slot_of_name.find(name);
+        if (found == slot_of_name.end()) return -1;
         const T *element = array[found->second];
         if (element != nullptr && key_of(*element) == name) return found->second;
         // Changed behind the array's back: read the array afresh once.
         rebuild(array);
-        const auto again = slots.find(name);
-        return again == slots.end() ? -1 : again->second;
+        const auto again = slot_of_name.find(name);
+        return again == slot_of_name.end() ? -1 : again->second;
     }
 
 private:
@@ -48,13 +48,13 @@ private:
             rebuild(array);
             return;
         }
-        // Only adds since the last look-up: in a dense array they fill the slots behind it.
+        // Only adds since the last look-up: in a dense array they fill the slot_of_name behind it.
         for (; indexed < array.count(); ++indexed) enter(array, indexed);
     }
 
     void rebuild(const DynArray<T, chunk> &array) {
-        slots.clear();
-        slots.reserve(static_cast<std::size_t>(array.count()));
+        slot_of_name.clear();
+        slot_of_name.reserve(static_cast<std::size_t>(array.count()));
         for (int i = 0; i < array.size(); ++i) enter(array, i);
         layout = array.layout();
         indexed = array.count();
@@ -65,12 +65,12 @@ private:
         const T *element = array[slot];
         if (element == nullptr) return;
         // The first slot keeps the name, as a scan of the list would find it.
-        const auto [where, added] = slots.try_emplace(key_of(*element), slot);
+        const auto [where, added] = slot_of_name.try_emplace(key_of(*element), slot);
         if (!added && slot < where->second) where->second = slot;
     }
 
     KeyOf key_of;
-    std::unordered_map<std::string, int> slots;
+    std::unordered_map<std::string, int> slot_of_name;
     std::uint64_t layout = ~std::uint64_t{0};
     int indexed = 0;
     bool dense = false;
