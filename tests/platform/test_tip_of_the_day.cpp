@@ -28,7 +28,9 @@ TEST(TipOfTheDay, SplitsHeadingFromText) {
     };
     for (const auto &row : cases) {
         const Tip tip = split_tip(row.tip, "Did you know...");
-        if (row.heading != nullptr) EXPECT_EQ(tip.heading, row.heading) << row.tip;
+        if (row.heading != nullptr) {
+            EXPECT_EQ(tip.heading, row.heading) << row.tip;
+        }
         if (row.text != nullptr) {
             EXPECT_EQ(tip.text, row.text) << row.tip;
         } else {
