@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <cstdlib>
 #include <filesystem>
 
 #include "atomic_file.h"
@@ -94,6 +95,25 @@ TEST(FileAssociation, AFileInTheWayOfAFolderFails) {
     EXPECT_FALSE(result.ok);
     EXPECT_TRUE(result.changed);  // the MIME package went in before the entry failed
     EXPECT_EQ(read_whole_file(data.path() + "/applications").value_or(""), "not a folder");
+}
+
+}  // namespace
+}  // namespace quindar
+
+namespace quindar {
+namespace {
+
+// The desktop's own MIME tool reads the package and maps "*.qnd" to the document type.
+TEST(FileAssociation, TheMimeToolAcceptsThePackage) {
+    if (std::system("command -v update-mime-database >/dev/null 2>&1") != 0) {
+        GTEST_SKIP() << "update-mime-database is not installed";
+    }
+    testing::TempFolder data;
+    ASSERT_TRUE(register_file_association(data.path(), "/opt/q/quindar", "quindar").ok);
+    const std::string command = "update-mime-database '" + data.path() + "/mime' 2>&1";
+    ASSERT_EQ(std::system(command.c_str()), 0);
+    const std::string globs = read_whole_file(data.path() + "/mime/globs2").value_or("");
+    EXPECT_NE(globs.find("application/x-quindar:*.qnd"), std::string::npos) << globs;
 }
 
 }  // namespace

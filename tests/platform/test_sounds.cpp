@@ -7,6 +7,7 @@
 #include <set>
 #include <string>
 
+#include "atomic_file.h"
 #include "sound_recipes.h"
 #include "wave_file.h"
 
@@ -70,6 +71,20 @@ TEST(Sounds, DamagedWaveBytesAreRefused) {
     compressed[20] = 2;
     for (const auto &bytes : {truncated, notRiff, compressed, std::vector<std::uint8_t>{}}) {
         EXPECT_FALSE(read_wave_format(bytes).has_value());
+    }
+}
+
+// The files the build wrote with the generator are the recipes' sounds.
+TEST(Sounds, TheBuildWroteEveryWave) {
+    for (const SoundRecipe &recipe : sound_recipes()) {
+        const std::string path = std::string(QUINDAR_BUILT_SOUNDS_DIR "/") + recipe.fileName;
+        const auto content = read_whole_file(path);
+        ASSERT_TRUE(content.has_value()) << path;
+        const auto format =
+            read_wave_format(std::vector<std::uint8_t>(content->begin(), content->end()));
+        ASSERT_TRUE(format.has_value()) << path;
+        EXPECT_EQ(format->sampleRate, kSoundSampleRate) << path;
+        EXPECT_EQ(format->dataBytes, synthesize(recipe).size() * 2) << path;
     }
 }
 
