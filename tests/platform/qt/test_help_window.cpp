@@ -23,6 +23,8 @@ TEST(HelpWindow, ShowsTheTopicsPage) {
         {19500, "tutorials.html", "Tutorials"},
         {19400, "math-editor.html", "The Math Editor"},
         {12345, "index.html", "Quindar Help"},
+        {20000, "fn-sqrt.html", "SQRT"},  // the functions, in the engine's table order
+        {20090, "fn-presist.html", "PRESIST"},
     };
     for (const auto &row : cases) {
         help.showTopic(row.topic);
