@@ -24,7 +24,7 @@ std::string mime_package_xml() {
 std::string desktop_exec_argument(std::string_view program) {
     // Exec arguments with reserved characters go in double quotes, where " ` $ and \ take a
     // backslash; the key's value is then an escaped string, which doubles every backslash.
-    constexpr std::string_view kReserved = " \t\n\"'\\><~|&;$*?#()`";
+    constexpr std::string_view kReserved = " \t\n\r\"'\\><~|&;$*?#()`";
     if (program.find_first_of(kReserved) == std::string_view::npos) return std::string(program);
     std::string quoted = "\"";
     for (char c : program) {
@@ -32,10 +32,19 @@ std::string desktop_exec_argument(std::string_view program) {
         quoted += c;
     }
     quoted += '"';
+    // Control characters would break the entry's line; the value escapes name them.
     std::string escaped;
     for (char c : quoted) {
-        escaped += c;
-        if (c == '\\') escaped += '\\';
+        if (c == '\n') {
+            escaped += "\\n";
+        } else if (c == '\t') {
+            escaped += "\\t";
+        } else if (c == '\r') {
+            escaped += "\\r";
+        } else {
+            escaped += c;
+            if (c == '\\') escaped += '\\';
+        }
     }
     return escaped;
 }

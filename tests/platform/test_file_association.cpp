@@ -23,6 +23,7 @@ TEST(FileAssociation, ExecArgumentQuotesOnlyWhatNeedsIt) {
         {"/opt/a$b/quindar", "\"/opt/a\\\\$b/quindar\""},
         {"/opt/q\"x/quindar", "\"/opt/q\\\\\"x/quindar\""},
         {"/opt/back\\slash", "\"/opt/back\\\\\\\\slash\""},
+        {"/opt/two\nlines", "\"/opt/two\\nlines\""},  // the entry stays one line
     };
     for (const auto &row : cases) {
         EXPECT_EQ(desktop_exec_argument(row.program), row.argument) << row.program;
