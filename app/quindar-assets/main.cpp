@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "atomic_file.h"
+#include "changed_file.h"
 #include "file_association.h"
 #include "sound_recipes.h"
 #include "wave_file.h"

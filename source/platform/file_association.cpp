@@ -4,7 +4,7 @@
 
 #include <filesystem>
 
-#include "atomic_file.h"
+#include "changed_file.h"
 
 namespace quindar {
 

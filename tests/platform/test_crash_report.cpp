@@ -8,8 +8,8 @@
 #include <cstdlib>
 #include <string>
 
-#include "atomic_file.h"
 #include "crash_report.h"
+#include "file_io.h"
 #include "temp_folder.h"
 
 namespace quindar {

@@ -6,8 +6,8 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "atomic_file.h"
 #include "file_association.h"
+#include "file_io.h"
 #include "temp_folder.h"
 
 namespace quindar {
@@ -63,7 +63,10 @@ TEST(FileAssociation, RegisterWritesBothFilesOnlyWhenChanged) {
     AssociationResult moved = register_file_association(data.path(), "/new/quindar", "quindar");
     EXPECT_TRUE(moved.changed);
     EXPECT_NE(read_whole_file(entry).value_or("").find("Exec=/new/quindar %f"), std::string::npos);
-    EXPECT_FALSE(std::filesystem::exists(entry + ".part"));
+    // Written through a temporary file that did not stay behind.
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(data.path() + "/applications"),
+                            std::filesystem::directory_iterator()),
+              1);
 }
 
 TEST(FileAssociation, UnregisterRemovesBothFiles) {
@@ -87,6 +90,16 @@ TEST(FileAssociation, AReadOnlyFolderFailsWithoutHarm) {
     ::chmod(data.path().c_str(), 0700);
     EXPECT_FALSE(result.ok);
     EXPECT_FALSE(result.changed);
+}
+
+TEST(FileAssociation, AReadOnlyEntryIsLeftAsItIs) {
+    testing::TempFolder data;
+    std::filesystem::create_directories(data.path() + "/applications");
+    const std::string entry = data.write("applications/quindar.desktop", "[Desktop Entry]\nold\n");
+    ::chmod(entry.c_str(), 0444);
+    AssociationResult result = register_file_association(data.path(), "/opt/q/quindar", "quindar");
+    EXPECT_FALSE(result.ok);
+    EXPECT_EQ(read_whole_file(entry).value_or(""), "[Desktop Entry]\nold\n");
 }
 
 TEST(FileAssociation, AFileInTheWayOfAFolderFails) {

@@ -4,7 +4,7 @@
 
 #include <filesystem>
 
-#include "atomic_file.h"
+#include "file_io.h"
 #include "help_topics.h"
 
 namespace quindar {

@@ -7,7 +7,7 @@
 #include <set>
 #include <string>
 
-#include "atomic_file.h"
+#include "file_io.h"
 #include "sound_recipes.h"
 #include "wave_file.h"
 
