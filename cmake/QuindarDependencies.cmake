@@ -28,3 +28,12 @@ if(QUINDAR_BUILD_BENCHMARKS)
     find_package(PkgConfig REQUIRED)
     pkg_check_modules(MUPARSER REQUIRED IMPORTED_TARGET muparser)
 endif()
+
+# Qt only for the desktop program and its tests; the engine and quindar-cli build without it.
+if(QUINDAR_BUILD_DESKTOP)
+    set(quindar_qt_components Widgets)
+    if(QUINDAR_BUILD_TESTS)
+        list(APPEND quindar_qt_components Test)
+    endif()
+    find_package(Qt6 REQUIRED COMPONENTS ${quindar_qt_components})
+endif()

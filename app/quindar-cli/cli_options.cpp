@@ -28,6 +28,7 @@ const char *const kHelp =
     "  --save DOC.qnd  also save the computed work (text, variables, functions,\n"
     "               settings and graphs) as the document DOC.qnd\n"
     "  -h, --help   show this text\n"
+    "  --version    print the program's version\n"
     "\n"
     "Numeric computations print one value. EXPR is mapped once and solved at each sample;\n"
     "LOW, HIGH and AT are expressions. With FILE, its lines are computed first, silently,\n"
@@ -105,6 +106,8 @@ std::optional<Options> ParseOptions(const std::vector<std::string> &arguments, s
             optionsEnded = true;
         } else if (!optionsEnded && (argument == "--help" || argument == "-h")) {
             options.help = true;
+        } else if (!optionsEnded && argument == "--version") {
+            options.version = true;
         } else if (!optionsEnded && argument == "--enter") {
             options.key = RunKey::Enter;
         } else if (!optionsEnded && argument == "--in-place") {

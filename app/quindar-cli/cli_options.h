@@ -19,6 +19,7 @@ extern const char *const kHelp;
 
 struct Options {
     bool help = false;
+    bool version = false;
     bool inPlace = false;
     // Angles in radians, also over a document's own setting.
     bool radians = false;

@@ -91,6 +91,10 @@ int main(int argc, char **argv) {
         std::cout << cli::kHelp;
         return 0;
     }
+    if (options->version) {
+        std::cout << "quindar-cli " QUINDAR_VERSION "\n";
+        return 0;
+    }
 
     const std::string libraries = library_folder(QUINDAR_SOURCE_LIBRARY_DIR);
     // The user library is made when missing, as the desktop program does at its start.

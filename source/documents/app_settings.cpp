@@ -40,7 +40,7 @@ std::string settings_file_path() {
         if (home.empty()) return kSettingsFileName;
         folder = home + "/.config";
     }
-    return folder + "/quindar/" + kSettingsFileName;
+    return folder + "/Quindar/" + kSettingsFileName;
 }
 
 AppSettings::AppSettings(std::string filePath) : file(std::move(filePath)) {}

@@ -3,7 +3,7 @@
 #pragma once
 
 // The application's settings file "Quindar.ini". It lies in the user's configuration folder
-// ($XDG_CONFIG_HOME/quindar, else ~/.config/quindar), not beside the program, which may not
+// ($XDG_CONFIG_HOME/Quindar, else ~/.config/Quindar), not beside the program, which may not
 // be writable. Every access reads or writes the file at once through the profile calls, so an
 // object holds nothing but the path; each reader brings its default, and a missing file,
 // section or key means that default, never an error.

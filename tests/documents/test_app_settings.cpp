@@ -40,12 +40,12 @@ private:
 TEST(SettingsPath, TheUsersConfigurationFolder) {
     {
         ScopedEnvironment config("XDG_CONFIG_HOME", "/tmp/xdg");
-        EXPECT_EQ(settings_file_path(), "/tmp/xdg/quindar/Quindar.ini");
+        EXPECT_EQ(settings_file_path(), "/tmp/xdg/Quindar/Quindar.ini");
     }
     {
         ScopedEnvironment config("XDG_CONFIG_HOME", "relative/ignored");
         ScopedEnvironment home("HOME", "/home/someone");
-        EXPECT_EQ(settings_file_path(), "/home/someone/.config/quindar/Quindar.ini");
+        EXPECT_EQ(settings_file_path(), "/home/someone/.config/Quindar/Quindar.ini");
     }
     {
         ScopedEnvironment config("XDG_CONFIG_HOME", nullptr);
@@ -59,7 +59,7 @@ protected:
     TempFolder folder;
     ScopedEnvironment config{"XDG_CONFIG_HOME", folder.path().c_str()};
     AppSettings settings;  // through the environment, as the program makes it
-    std::string file = folder.file("quindar/Quindar.ini");
+    std::string file = folder.file("Quindar/Quindar.ini");
 };
 
 TEST_F(Settings, WithNoFileEveryKeyHasItsDefault) {
@@ -197,7 +197,7 @@ TEST(SettingsFile, AFileThatCannotBeWrittenKeepsItsDefaults) {
 }
 
 TEST_F(Settings, NewGraphsTakeTheirDefaultsFromTheUsersSettingsFile) {
-    std::filesystem::create_directories(folder.file("quindar"));
+    std::filesystem::create_directories(folder.file("Quindar"));
     testing::write_content(file, "[Graph Default Colors]\r\nBackground=10,20,30\r\n");
     IniGraphSettings graphSettings;
     GraphList list;
