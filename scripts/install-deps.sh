@@ -7,8 +7,8 @@ packages=(
     g++ cmake ninja-build pkg-config
     libintelrdfpmath-dev libmpfr-dev libgmp-dev
     libgtest-dev libbenchmark-dev libmuparser-dev ccache
-    qt6-base-dev qt6-svg-dev qt6-qpa-plugins libgl-dev
-    xvfb xauth xdotool fonts-dejavu-core fonts-liberation poppler-utils
+    qt6-base-dev qt6-svg-dev qt6-multimedia-dev qt6-qpa-plugins libgl-dev librsvg2-bin
+    xvfb xauth xdotool fonts-dejavu-core fonts-liberation poppler-utils shared-mime-info
 )
 
 missing=()

@@ -9,9 +9,9 @@
 #include <string>
 #include <vector>
 
-#include "app_services.h"
 #include "desktop_folders.h"
 #include "main_frame.h"
+#include "platform_services.h"
 #include "program_folders.h"
 #include "start_request.h"
 #include "workbench.h"
@@ -33,16 +33,17 @@ int main(int argc, char **argv) {
     for (const QString &argument : QCoreApplication::arguments().mid(1))
         words.push_back(argument.toStdString());
 
-    quindar::AppServices services;
-    const quindar::StartRequest request = quindar::read_start_request(words);
-    if (services.HandOverToRunningInstance(QString::fromStdString(request.file))) return 0;
-
+    // Finding the folders only reads, so it may come before the hand-over.
     const quindar::DesktopFolders folders = quindar::find_desktop_folders(
         quindar::program_folder(), QUINDAR_SOURCE_DIR, quindar::process_environment());
+    quindar::PlatformServices services(folders);
+    const quindar::StartRequest request = quindar::read_start_request(words);
+    if (services.HandOverToRunningInstance(QString::fromStdString(request.file))) return 0;
     services.InstallCrashReport(QString::fromStdString(folders.userDataDir));
     if (qEnvironmentVariableIntValue("QUINDAR_NO_SPLASH") != 1) services.SplashStart();
 
     quindar::Workbench workbench(services, folders);
+    services.runCommand = [&workbench](int id) { workbench.Router().Execute(id); };
     quindar::MainFrame *frame = workbench.Start(words);
     frame->showMaximized();
     workbench.AfterShow();

@@ -114,7 +114,8 @@ void DesktopCommands::menusAndToolBarFollowTheDocuments() {
                                  command::kTutorials, command::kHelpContents};
     QCOMPARE(VisibleToolBar(frame), shortBar);
     QVERIFY(!frame.WindowCombo()->isEnabled());
-    QVERIFY(!frame.WindowCombo()->isVisibleTo(&frame));
+    // The tool bar hides a widget of a hidden action when it next lays itself out.
+    QTRY_VERIFY(!frame.WindowCombo()->isVisibleTo(&frame));
 
     harness.Bench().Router().Execute(command::kFileNew);
     QCOMPARE(VisibleMenus(frame), allMenus);
