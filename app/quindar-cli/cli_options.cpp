@@ -6,14 +6,18 @@ namespace quindar::cli {
 
 const char *const kUsage =
     "Usage: quindar-cli [--enter] [--in-place] [--radians] [--save DOC.qnd] [FILE]\n"
-    "       quindar-cli --integrate EXPR VAR LOW HIGH [--accuracy A] [OPTIONS] [FILE]\n"
+    "       quindar-cli --integrate EXPR X XLO XHI [Y YLO YHI [Z ZLO ZHI]] [--slider P]\n"
+    "                   [--accuracy A] [OPTIONS] [FILE]\n"
     "       quindar-cli --derivative EXPR VAR AT [--order N] [--step H] [OPTIONS] [FILE]\n"
+    "       quindar-cli --differentiate EXPR VAR XO XN N [--columns LIST] [OPTIONS] [FILE]\n"
     "       quindar-cli --root EXPR VAR LOW HIGH [OPTIONS] [FILE]\n";
 
 const char *const kHelp =
     "Usage: quindar-cli [--enter] [--in-place] [--radians] [--save DOC.qnd] [FILE]\n"
-    "       quindar-cli --integrate EXPR VAR LOW HIGH [--accuracy A] [OPTIONS] [FILE]\n"
+    "       quindar-cli --integrate EXPR X XLO XHI [Y YLO YHI [Z ZLO ZHI]] [--slider P]\n"
+    "                   [--accuracy A] [OPTIONS] [FILE]\n"
     "       quindar-cli --derivative EXPR VAR AT [--order N] [--step H] [OPTIONS] [FILE]\n"
+    "       quindar-cli --differentiate EXPR VAR XO XN N [--columns LIST] [OPTIONS] [FILE]\n"
     "       quindar-cli --root EXPR VAR LOW HIGH [OPTIONS] [FILE]\n"
     "Computes every line of FILE (standard input when FILE is missing or \"-\") in a Math\n"
     "Editor and prints the resulting text: each answer is written behind its line (\"2+3\"\n"
@@ -34,9 +38,18 @@ const char *const kHelp =
     "LOW, HIGH and AT are expressions. With FILE, its lines are computed first, silently,\n"
     "so its variables and functions are in force.\n"
     "  --integrate   the definite integral by Romberg's method; --accuracy is relative\n"
-    "                (0.0001 unless given); reversed limits are swapped\n"
+    "                (0.0001 unless given); reversed limits are swapped. With Y (and Z)\n"
+    "                the double (triple) integral as the Integration Utility computes it:\n"
+    "                a midpoint sum over Y (and Z) with Romberg's method over X; inner\n"
+    "                limits may use the outer variables\n"
+    "  --slider      the Integration Utility's slider, 0 (speed) to 100 (accuracy):\n"
+    "                the accuracy of a single integral, the grid of a multiple one (20)\n"
     "  --derivative  the derivative of --order 1, 2 or 3 (1 unless given) at AT, by\n"
     "                extrapolated central differences from the starting step --step (0.1)\n"
+    "  --differentiate  the Differentiation Utility's table of N rows from XO to XN,\n"
+    "                written as its \"Insert Ans.\" writes it into the Math Editor\n"
+    "  --columns     the table's columns besides VAR: a comma list of f, 1, 2 and 3\n"
+    "                (the function and its derivatives; all four unless given)\n"
     "  --root        a root between LOW and HIGH, where EXPR must change sign\n"
     "  --precision   digits of the value, 1 to 14 (6, or 14 for a root)\n"
 
@@ -62,6 +75,8 @@ std::optional<std::string> *CalculusSetting(CalculusOptions &calculus, const std
     if (name == "--order") return &calculus.order;
     if (name == "--step") return &calculus.step;
     if (name == "--precision") return &calculus.precision;
+    if (name == "--slider") return &calculus.slider;
+    if (name == "--columns") return &calculus.columns;
     return nullptr;
 }
 
@@ -76,15 +91,20 @@ std::optional<Options> ParseOptions(const std::vector<std::string> &arguments, s
     for (std::size_t at = 0; at < arguments.size(); ++at) {
         const std::string &argument = arguments[at];
         CalculusKind kind{};
-        if (const int operands = optionsEnded ? 0 : CalculusOperandCount(argument, kind)) {
+        if (int operands = optionsEnded ? 0 : CalculusOperandCount(argument, kind)) {
             if (options.calculus) {
-                error = "only one of --integrate, --derivative and --root at a time";
+                error =
+                    "only one of --integrate, --derivative, --differentiate and --root at a time";
                 return std::nullopt;
             }
             if (at + operands >= arguments.size()) {
                 error = "\"" + argument + "\" needs " + std::to_string(operands) + " operands";
                 return std::nullopt;
             }
+            const int extra = kind == CalculusKind::Integrate
+                                  ? ExtraIntegralOperands(arguments, at + operands + 1)
+                                  : 0;
+            operands += extra;
             calculus.kind = kind;
             calculus.operands.assign(arguments.begin() + static_cast<long>(at) + 1,
                                      arguments.begin() + static_cast<long>(at) + 1 + operands);
@@ -134,7 +154,8 @@ std::optional<Options> ParseOptions(const std::vector<std::string> &arguments, s
             return std::nullopt;
         }
     } else if (!settingsGiven.empty()) {
-        error = settingsGiven.front() + " needs --integrate, --derivative or --root";
+        error =
+            settingsGiven.front() + " needs --integrate, --derivative, --differentiate or --root";
         return std::nullopt;
     }
     if (options.inPlace && !options.help && options.path == "-") {

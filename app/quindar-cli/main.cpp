@@ -68,17 +68,14 @@ int Compute(const cli::Options &options, Parser &parser) {
     if (options.radians) parser.angle_mode = 1;
     if (options.havePath) ReportFailures(RunText(work.text, options.key, parser));
     std::string value;
-    switch (cli::RunCalculus(parser, *options.calculus, value, error)) {
-        case 0:
-            break;
-        case 1:
-            std::cerr << error << '\n';
-            return 1;
-        default:
-            return Fail(error);
-    }
-    std::cout << value << std::endl;
-    return std::cout ? 0 : Fail("cannot write standard output");
+    const int status = cli::RunCalculus(parser, *options.calculus, value, error);
+    if (status > 1) return Fail(error);
+    // A table that failed at a point keeps its rows.
+    std::cout << value << std::flush;
+    if (!std::cout) return Fail("cannot write standard output");
+    if (status == 0) return 0;
+    std::cerr << error << '\n';
+    return 1;
 }
 
 }  // namespace

@@ -8,7 +8,8 @@
 #           in place must become SAVED; usage: run with ARGS (and ARGS2) and check CODE,
 #           and that
 #           standard output holds STDOUT_HAS or standard error STDERR_HAS, or standard
-#           output is exactly STDOUT_IS; "|" separates several arguments in ARGS
+#           output is exactly STDOUT_IS, or the file STDOUT_FILE; "|" separates several
+#           arguments in ARGS
 cmake_minimum_required(VERSION 3.25)
 
 file(REMOVE_RECURSE ${WORK})
@@ -75,6 +76,9 @@ if(MODE STREQUAL "usage")
         if(NOT text STREQUAL "${STDOUT_IS}\n")
             fail("standard output is not \"${STDOUT_IS}\"")
         endif()
+    endif()
+    if(DEFINED STDOUT_FILE)
+        same_file(${out} ${STDOUT_FILE} "standard output")
     endif()
     return()
 endif()
