@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Quindar developers
+// The Calculus sheet: two pages, OK, Cancel and Apply, and the refusals during a run.
+
+#include "calculus_sheet.h"
+
+#include <QDialogButtonBox>
+#include <QGuiApplication>
+#include <QPushButton>
+#include <QScreen>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include "differentiation_page.h"
+#include "document_window.h"
+#include "integration_page.h"
+
+namespace quindar {
+
+namespace {
+// Where the document keeps the page that was in front when its sheet last closed.
+constexpr const char *kLastPageProperty = "quindarLastCalculusPage";
+}  // namespace
+
+CalculusSheet::CalculusSheet(Workbench &workbench, DocumentWindow &owner, const QString &function,
+                             int page)
+    : QDialog(&owner, Qt::Window), document(owner) {
+    setWindowTitle(QStringLiteral("CALCULUS : %1").arg(owner.Caption()));
+    setAccessibleName(QStringLiteral("CALCULUS"));
+    setModal(false);
+    setAttribute(Qt::WA_DeleteOnClose);
+    auto *layout = new QVBoxLayout(this);
+    tabs = new QTabWidget(this);
+    tabs->setAccessibleName(QStringLiteral("Calculus Pages"));
+    integration = new IntegrationPage(workbench, owner, function, tabs);
+    differentiation = new DifferentiationPage(workbench, owner, function, tabs);
+    tabs->addTab(integration, QStringLiteral("Integration"));
+    tabs->addTab(differentiation, QStringLiteral("Differentiation"));
+    layout->addWidget(tabs);
+
+    auto *buttons = new QDialogButtonBox(
+        QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Apply, this);
+    buttons->setAccessibleName(QStringLiteral("Sheet Buttons"));
+    for (QAbstractButton *button : buttons->buttons()) {
+        button->setAccessibleName(button->text().remove(QLatin1Char('&')));
+        if (auto *push = qobject_cast<QPushButton *>(button)) push->setAutoDefault(false);
+    }
+    connect(buttons, &QDialogButtonBox::accepted, this, [this] {
+        Apply();
+        accept();
+    });
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(buttons->button(QDialogButtonBox::Apply), &QPushButton::clicked, this,
+            &CalculusSheet::Apply);
+    layout->addWidget(buttons);
+
+    connect(integration, &IntegrationPage::runStarted, this, [this] { RunStarted(integration); });
+    connect(differentiation, &DifferentiationPage::runStarted, this,
+            [this] { RunStarted(differentiation); });
+    connect(integration, &IntegrationPage::runFinished, this, &CalculusSheet::RunFinished);
+    connect(differentiation, &DifferentiationPage::runFinished, this, &CalculusSheet::RunFinished);
+
+    SelectPage(page);
+    adjustSize();
+    if (const QScreen *screen = QGuiApplication::primaryScreen())
+        move(screen->availableGeometry().center() - rect().center());
+}
+
+int CalculusSheet::CurrentPage() const {
+    return tabs->currentWidget() == integration ? 0 : 1;
+}
+
+void CalculusSheet::SelectPage(int page) {
+    tabs->setCurrentWidget(page == 0 ? static_cast<QWidget *>(integration) : differentiation);
+}
+
+DocumentActivity CalculusSheet::Activity() const {
+    DocumentActivity activity;
+    activity.computingIntegral = integration->Computing();
+    activity.computingDerivative = differentiation->Computing();
+    return activity;
+}
+
+void CalculusSheet::Apply() {
+    integration->StoreSettings();
+    differentiation->StoreSettings();
+}
+
+void CalculusSheet::ReloadFunctionList() {
+    integration->ReloadFunctionList();
+    differentiation->ReloadFunctionList();
+}
+
+void CalculusSheet::RunStarted(QWidget *page) {
+    // The other page can't be chosen while this one runs.
+    for (int index = 0; index < tabs->count(); ++index)
+        tabs->setTabEnabled(index, tabs->widget(index) == page);
+}
+
+void CalculusSheet::RunFinished() {
+    for (int index = 0; index < tabs->count(); ++index) tabs->setTabEnabled(index, true);
+}
+
+bool CalculusSheet::CanClose() {
+    return integration->CanClose() && differentiation->CanClose();
+}
+
+void CalculusSheet::done(int result) {
+    if (!CanClose()) return;
+    document.setProperty(kLastPageProperty, CurrentPage());
+    QDialog::done(result);
+    close();
+}
+
+int LastCalculusPage(const DocumentWindow &document) {
+    return document.property(kLastPageProperty).toInt();
+}
+
+}  // namespace quindar
