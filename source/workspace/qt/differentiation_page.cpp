@@ -277,6 +277,7 @@ void DifferentiationPage::StoreSettings() {
     stored.DiffPrecision = precisionBox->value();
     for (int box = 0; box < 4; ++box)
         stored.*kShownFields[box] = columnBoxes[box]->isChecked() ? 1 : 0;
+    document.MarkSettingsChanged();
 }
 
 std::array<bool, 4> DifferentiationPage::Shown() const {
@@ -302,6 +303,7 @@ calculus::DifferentiationSettings DifferentiationPage::ReadBoxes() const {
 
 void DifferentiationPage::InputChanged() {
     if (!guard.idle()) return;
+    if (!filling) document.MarkSettingsChanged();
     table.clear();
     list->setRowCount(0);
     insertButton->setEnabled(false);
@@ -399,6 +401,7 @@ void DifferentiationPage::Compute() {
     if (!guard.begin()) return;
     InputChanged();
     const calculus::DifferentiationSettings settings = ReadBoxes();
+    StoreSettings();
     host.Begin();
     shownCells = {};
     RewriteTable();

@@ -302,6 +302,7 @@ void IntegrationPage::StoreSettings() {
         stored.*fields.low = Trimmed(lowEdits[axis]->text());
         stored.*fields.high = Trimmed(highEdits[axis]->text());
     }
+    document.MarkSettingsChanged();
 }
 
 int IntegrationPage::Type() const {
@@ -371,6 +372,7 @@ void IntegrationPage::ParameterChosen(int axis, int index) {
 
 void IntegrationPage::ClearAnswer() {
     if (!guard.idle()) return;
+    if (!filling) document.MarkSettingsChanged();
     hasSolution = false;
     answerEdit->clear();
     insertButton->setEnabled(false);
@@ -417,6 +419,7 @@ void IntegrationPage::Compute() {
     if (!guard.begin()) return;
     ClearAnswer();
     const calculus::IntegrationSettings settings = ReadBoxes();
+    StoreSettings();
     host.Begin();
     ShowRunning(true, settings.type);
     emit runStarted();
