@@ -30,6 +30,7 @@ CalculusSheet::CalculusSheet(Workbench &workbench, DocumentWindow &owner, const 
     setModal(false);
     setAttribute(Qt::WA_DeleteOnClose);
     auto *layout = new QVBoxLayout(this);
+    layout->setSizeConstraint(QLayout::SetMinimumSize);
     tabs = new QTabWidget(this);
     tabs->setAccessibleName(QStringLiteral("Calculus Pages"));
     integration = new IntegrationPage(workbench, owner, function, tabs);

@@ -119,6 +119,13 @@ void DifferentiationPage::BuildControls(const QString &function) {
         checks->addWidget(columnBoxes[box]);
     }
     checks->addStretch();
+    auto *precisionLabel = new QLabel(QStringLiteral("&Precision"), inputs);
+    precisionBox = new QSpinBox(inputs);
+    precisionBox->setRange(1, 14);
+    precisionBox->setAccessibleName(QStringLiteral("Precision"));
+    precisionLabel->setBuddy(precisionBox);
+    checks->addWidget(precisionLabel);
+    checks->addWidget(precisionBox);
     grid->addLayout(checks, 3, 0, 1, 4);
     layout->addWidget(inputs);
 
@@ -129,6 +136,7 @@ void DifferentiationPage::BuildControls(const QString &function) {
     list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     list->verticalHeader()->hide();
     list->horizontalHeader()->setDefaultSectionSize(kColumnWidth);
+    list->verticalHeader()->setDefaultSectionSize(list->fontMetrics().height() + 6);
     list->setMinimumHeight(160);
     layout->addWidget(list, 1);
 
@@ -168,20 +176,10 @@ void DifferentiationPage::BuildControls(const QString &function) {
     for (QPushButton *button : {insertButton, graphButton, editFunctionButton, editVariableButton,
                                 libraryButton, helpButton})
         others->addWidget(button);
+    // The buttons keep their whole texts; the table gives way instead.
+    otherButtons->setMinimumWidth(otherButtons->sizeHint().width());
     buttons->addWidget(otherButtons);
-    precisionRow = new QWidget(this);
-    precisionRow->setAccessibleName(QStringLiteral("Precision Row"));
-    auto *precisionLayout = new QHBoxLayout(precisionRow);
-    precisionLayout->setContentsMargins(0, 0, 0, 0);
-    auto *precisionLabel = new QLabel(QStringLiteral("&Precision"), precisionRow);
-    precisionBox = new QSpinBox(precisionRow);
-    precisionBox->setRange(1, 14);
-    precisionBox->setAccessibleName(QStringLiteral("Precision"));
-    precisionLabel->setBuddy(precisionBox);
-    precisionLayout->addWidget(precisionLabel);
-    precisionLayout->addWidget(precisionBox);
     buttons->addStretch();
-    buttons->addWidget(precisionRow);
     layout->addLayout(buttons);
 
     ReloadFunctionList();
@@ -387,7 +385,6 @@ void DifferentiationPage::ShowNewCells() {
 
 void DifferentiationPage::HideControls(bool running) {
     inputs->setVisible(!running);
-    precisionRow->setVisible(!running);
     otherButtons->setVisible(!running);
     computeButton->setVisible(!running);
     stopButton->setVisible(running);

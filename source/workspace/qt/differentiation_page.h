@@ -97,7 +97,6 @@ private:
     QLabel *statusText = nullptr;
     QProgressBar *gauge = nullptr;
     QSpinBox *precisionBox = nullptr;
-    QWidget *precisionRow = nullptr;
     QPushButton *computeButton = nullptr;
     QPushButton *stopButton = nullptr;
     QPushButton *insertButton = nullptr;

@@ -475,6 +475,7 @@ void CalculusWindows::screenshots() {
     Named<QSlider>(&integration, QStringLiteral("Speed or Accuracy"))->setValue(0);
     integration.ComputeButton()->click();
     QVERIFY(!integration.AnswerText().isEmpty());
+    QApplication::processEvents();  // the sheet grows to what its pages now hold
     QVERIFY(sheet->grab().save(folder + QStringLiteral("/calculus_integration.png")));
     sheet->SelectPage(1);
     DifferentiationPage &differentiation = sheet->Differentiation();
@@ -484,6 +485,7 @@ void CalculusWindows::screenshots() {
     SetText(&differentiation, QStringLiteral("Xn"), QStringLiteral("1"));
     SetText(&differentiation, QStringLiteral("n"), QStringLiteral("9"));
     differentiation.ComputeButton()->click();
+    QApplication::processEvents();  // the sheet grows to what its pages now hold
     QVERIFY(sheet->grab().save(folder + QStringLiteral("/calculus_differentiation.png")));
     FunctionSolverDialog *solver = OpenFunctionSolver(
         harness.Bench(), *harness.Current(),
@@ -498,6 +500,7 @@ void CalculusWindows::screenshots() {
     }
     solver->Box(3)->setFocus();
     solver->Equals();
+    QApplication::processEvents();
     QVERIFY(solver->grab().save(folder + QStringLiteral("/function_solver.png")));
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
