@@ -4,6 +4,11 @@
 
 #include "calculus_tools.h"
 
+#include <QCoreApplication>
+#include <QEvent>
+#include <QMdiSubWindow>
+#include <QPointer>
+
 #include "calculus_sheet.h"
 #include "command_table.h"
 #include "document_window.h"
@@ -16,10 +21,44 @@ namespace {
 
 constexpr const char *kActivityWired = "quindarCalculusActivity";
 
+// A run keeps the document's engine on the stack, so its window can't close until the run is
+// over, whatever the answers to the save questions: the refusal comes before them.
+class RunningCloseGuard : public QObject {
+public:
+    RunningCloseGuard(Workbench &bench, DocumentWindow &owner, QMdiSubWindow *frame)
+        : QObject(&owner), workbench(bench), document(owner), window(frame) {
+        // The application's filters come before the client's own on the window.
+        QCoreApplication::instance()->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override {
+        if (event->type() != QEvent::Close || watched != window) return false;
+
+        CalculusSheet *sheet = FindCalculusSheet(document);
+        if (sheet == nullptr) return false;
+        const DocumentActivity activity = sheet->Activity();
+        if (!activity.computingIntegral && !activity.computingDerivative) return false;
+        const CloseMessage message = close_message(
+            activity.computingDerivative ? CloseStep::RefuseDerivative : CloseStep::RefuseIntegral,
+            !document.Path().empty());
+        workbench.Messages().Show(&document, message.text, message.title, kBoxWarning);
+        event->ignore();
+        return true;
+    }
+
+private:
+    Workbench &workbench;
+    DocumentWindow &document;
+    QPointer<QMdiSubWindow> window;
+};
+
 // The document reports a running page, besides whatever it reported before.
-void ReportActivity(DocumentWindow &document) {
+void ReportActivity(Workbench &workbench, DocumentWindow &document) {
     if (document.property(kActivityWired).toBool()) return;
     document.setProperty(kActivityWired, true);
+    if (auto *window = qobject_cast<QMdiSubWindow *>(document.parentWidget()))
+        new RunningCloseGuard(workbench, document, window);
     auto before = document.activity;
     DocumentWindow *owner = &document;
     document.activity = [before, owner] {
@@ -47,7 +86,7 @@ CalculusSheet *OpenCalculusUtility(Workbench &workbench, DocumentWindow &documen
         open->activateWindow();
         return open;
     }
-    ReportActivity(document);
+    ReportActivity(workbench, document);
     auto *sheet = new CalculusSheet(workbench, document, function, page);
     sheet->show();
     return sheet;

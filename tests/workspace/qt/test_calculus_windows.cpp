@@ -28,6 +28,7 @@
 #include "command_table.h"
 #include "desktop_harness.h"
 #include "differentiation_page.h"
+#include "document_area.h"
 #include "document_window.h"
 #include "function_solver_dialog.h"
 #include "integration_page.h"
@@ -89,6 +90,7 @@ private slots:
     void refusedLimitSelectsItsField();
     void stopMidRunGivesNoAnswerAndRestoresTheVariables();
     void closingDuringARunAsksOnceAndIsRefused();
+    void closingTheDocumentDuringARunIsRefusedBeforeItsQuestions();
     void differentiationTableFillsAndInsertsAllRows();
     void differentiationColumnsFollowTheCheckBoxes();
     void differentiationStopKeepsTheRowsDone();
@@ -246,6 +248,29 @@ void CalculusWindows::closingDuringARunAsksOnceAndIsRefused() {
     // Once the run is over the sheet closes without a word.
     sheet->close();
     QTRY_VERIFY(sheet.isNull());
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void CalculusWindows::closingTheDocumentDuringARunIsRefusedBeforeItsQuestions() {
+    DesktopHarness harness;
+    QPointer<DocumentWindow> document(harness.Current());
+    TypeText(&document->TextPane(), QStringLiteral("1+1"));
+    DifferentiationPage &page = OpenSheet(harness)->Differentiation();
+    SetText(&page, QStringLiteral("Function"), QStringLiteral("x^3"));
+    SetText(&page, QStringLiteral("Variable"), QStringLiteral("x"));
+    SetText(&page, QStringLiteral("Xo"), QStringLiteral("0"));
+    SetText(&page, QStringLiteral("Xn"), QStringLiteral("1"));
+    SetText(&page, QStringLiteral("n"), QStringLiteral("100000"));
+    harness.boxes.Expect(QStringLiteral("You are currently computing a derivative"), kIdOk);
+    bool closed = true;
+    QTimer::singleShot(200, &page, [&] {
+        closed = harness.Client().CloseDocument(document);
+        page.Stop();
+    });
+    page.ComputeButton()->click();
+    QVERIFY(!closed);
+    QVERIFY(!document.isNull());
+    QCOMPARE(harness.boxes.shown.size(), 1);
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
