@@ -5,6 +5,7 @@
 #include "calculus_sheet.h"
 
 #include <QDialogButtonBox>
+#include <QEvent>
 #include <QGuiApplication>
 #include <QPushButton>
 #include <QScreen>
@@ -62,6 +63,8 @@ CalculusSheet::CalculusSheet(Workbench &workbench, DocumentWindow &owner, const 
     connect(differentiation, &DifferentiationPage::runFinished, this, &CalculusSheet::RunFinished);
 
     SelectPage(page);
+    // Leaving a page keeps its boxes in the document.
+    connect(tabs, &QTabWidget::currentChanged, this, &CalculusSheet::Apply);
     adjustSize();
     if (const QScreen *screen = QGuiApplication::primaryScreen())
         move(screen->availableGeometry().center() - rect().center());
@@ -100,6 +103,16 @@ void CalculusSheet::RunStarted(QWidget *page) {
 
 void CalculusSheet::RunFinished() {
     for (int index = 0; index < tabs->count(); ++index) tabs->setTabEnabled(index, true);
+}
+
+bool CalculusSheet::event(QEvent *event) {
+    // Functions defined in the text meanwhile show in the function boxes when the sheet comes
+    // forward again.
+    if (event->type() == QEvent::WindowActivate) {
+        const DocumentActivity activity = Activity();
+        if (!activity.computingIntegral && !activity.computingDerivative) ReloadFunctionList();
+    }
+    return QDialog::event(event);
 }
 
 bool CalculusSheet::CanClose() {

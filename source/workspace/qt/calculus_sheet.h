@@ -40,6 +40,9 @@ public:
 
     void done(int result) override;
 
+protected:
+    bool event(QEvent *event) override;
+
 private:
     void RunStarted(QWidget *page);
     void RunFinished();

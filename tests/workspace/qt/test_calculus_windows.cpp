@@ -93,6 +93,7 @@ private slots:
     void closingTheDocumentDuringARunIsRefusedBeforeItsQuestions();
     void differentiationTableFillsAndInsertsAllRows();
     void differentiationColumnsFollowTheCheckBoxes();
+    void graphAnswerAddsATwoDimensionalGraphToTheDocument();
     void differentiationStopKeepsTheRowsDone();
     void solverTabulatesAListAndInsertsTheAnswer();
     void solverSavesAndLoadsItsList();
@@ -335,6 +336,39 @@ void CalculusWindows::differentiationColumnsFollowTheCheckBoxes() {
     QCOMPARE(page.List()->item(1, 1)->text(), QStringLiteral("0.2962962962963"));
     Named<QSpinBox>(&page, QStringLiteral("Precision"))->setValue(3);
     QCOMPARE(page.List()->item(1, 1)->text(), QStringLiteral("0.296"));
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void CalculusWindows::graphAnswerAddsATwoDimensionalGraphToTheDocument() {
+    DesktopHarness harness;
+    DocumentWindow &document = *harness.Current();
+    TypeText(&document.TextPane(), QStringLiteral("f[x] = x^2+1\n"));
+    CalculusSheet *sheet = OpenSheet(harness);
+    sheet->SelectPage(1);
+    DifferentiationPage &page = sheet->Differentiation();
+    // The function defined in the text is an entry of the function box.
+    auto *functions = Named<QComboBox>(&page, QStringLiteral("Function"));
+    QCOMPARE(functions->count(), 1);
+    functions->setCurrentIndex(0);
+    QCOMPARE(Named<QComboBox>(&page, QStringLiteral("Variable"))->currentText(),
+             QStringLiteral("x"));
+    SetText(&page, QStringLiteral("Xo"), QStringLiteral("0"));
+    SetText(&page, QStringLiteral("Xn"), QStringLiteral("2"));
+    SetText(&page, QStringLiteral("n"), QStringLiteral("5"));
+    page.ComputeButton()->click();
+    QCOMPARE(page.List()->item(4, 1)->text(), QStringLiteral("5"));
+    int drawn = 0;
+    page.drawGraph = [&](DocumentWindow &) { ++drawn; };
+    page.GraphButton()->click();
+    QCOMPARE(drawn, 1);
+    GraphData *graph = document.Content().currentGraph;
+    QVERIFY(graph != nullptr);
+    QCOMPARE(QString::fromStdString(std::string(graph->Name)),
+             QStringLiteral("Differentials of f[x]"));
+    QCOMPARE(graph->GetGraphType(), kGraph2D);
+    // A second press finds the same graph.
+    page.GraphButton()->click();
+    QCOMPARE(document.Content().graphs.count(), 1);
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
