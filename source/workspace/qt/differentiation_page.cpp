@@ -21,6 +21,7 @@
 
 #include "app_setting_keys.h"
 #include "calculus_messages.h"
+#include "calculus_page_parts.h"
 #include "command_table.h"
 #include "differentials_graph.h"
 #include "document_window.h"
@@ -32,24 +33,12 @@ namespace quindar {
 
 namespace {
 
-constexpr int kHelpTopic = 19486;
 constexpr int kColumnWidth = 100;
 
 // The check boxes' settings in the document, in the order function, first, second, third.
 constexpr int DifferentiationParameters::*kShownFields[] = {
     &DifferentiationParameters::DiffDispFunc, &DifferentiationParameters::DiffDispFirstDir,
     &DifferentiationParameters::DiffDispSecondDir, &DifferentiationParameters::DiffDispThirdDir};
-
-QString Text(const std::string &text) {
-    return QString::fromStdString(text);
-}
-
-QPushButton *Button(const QString &text, QWidget *parent) {
-    auto *button = new QPushButton(text, parent);
-    button->setAccessibleName(text.trimmed());
-    button->setAutoDefault(false);
-    return button;
-}
 
 QLineEdit *LabelledEdit(const QString &label, const QString &name, QGridLayout *grid, int column,
                         QWidget *parent) {
@@ -87,11 +76,7 @@ void DifferentiationPage::BuildControls(const QString &function) {
     grid->setContentsMargins(0, 0, 0, 0);
 
     auto *functionLabel = new QLabel(QStringLiteral("&Function"), inputs);
-    functionBox = new QComboBox(inputs);
-    functionBox->setEditable(true);
-    functionBox->setInsertPolicy(QComboBox::NoInsert);
-    functionBox->setMinimumContentsLength(36);
-    functionBox->setAccessibleName(QStringLiteral("Function"));
+    functionBox = FunctionBox(inputs);
     functionLabel->setBuddy(functionBox);
     grid->addWidget(functionLabel, 0, 0);
     grid->addWidget(functionBox, 1, 0, 1, 3);
@@ -144,18 +129,14 @@ void DifferentiationPage::BuildControls(const QString &function) {
     statusText = new QLabel(this);
     statusText->setAccessibleName(QStringLiteral("Status"));
     statusText->hide();
-    gauge = new QProgressBar(this);
-    gauge->setRange(0, 100);
-    gauge->setFormat(QStringLiteral("%p% Done"));
-    gauge->setAccessibleName(QStringLiteral("Progress"));
-    gauge->hide();
+    gauge = RunGauge(this);
     progressRow->addWidget(statusText, 1);
     progressRow->addWidget(gauge, 1);
     layout->addLayout(progressRow);
 
     auto *buttons = new QHBoxLayout;
-    computeButton = Button(QStringLiteral("Compute"), this);
-    stopButton = Button(QStringLiteral("Stop"), this);
+    computeButton = PageButton(QStringLiteral("Compute"), this);
+    stopButton = PageButton(QStringLiteral("Stop"), this);
     stopButton->hide();
     buttons->addWidget(computeButton);
     buttons->addWidget(stopButton);
@@ -163,16 +144,16 @@ void DifferentiationPage::BuildControls(const QString &function) {
     otherButtons->setAccessibleName(QStringLiteral("Answer Buttons"));
     auto *others = new QHBoxLayout(otherButtons);
     others->setContentsMargins(0, 0, 0, 0);
-    insertButton = Button(QStringLiteral("Insert Ans."), otherButtons);
-    graphButton = Button(QStringLiteral("Graph Ans."), otherButtons);
+    insertButton = PageButton(QStringLiteral("Insert Ans."), otherButtons);
+    graphButton = PageButton(QStringLiteral("Graph Ans."), otherButtons);
     insertButton->setEnabled(false);
     graphButton->setEnabled(false);
-    auto *editFunctionButton = Button(QStringLiteral("Edit Function"), otherButtons);
-    auto *editVariableButton = Button(QStringLiteral("Edit Variable"), otherButtons);
-    auto *libraryButton = Button(QStringLiteral("f(x)"), otherButtons);
+    auto *editFunctionButton = PageButton(QStringLiteral("Edit Function"), otherButtons);
+    auto *editVariableButton = PageButton(QStringLiteral("Edit Variable"), otherButtons);
+    auto *libraryButton = PageButton(QStringLiteral("f(x)"), otherButtons);
     libraryButton->setAccessibleName(QStringLiteral("Function Library"));
     libraryButton->setToolTip(QStringLiteral("Function Library"));
-    auto *helpButton = Button(QStringLiteral("Help"), otherButtons);
+    auto *helpButton = PageButton(QStringLiteral("Help"), otherButtons);
     for (QPushButton *button : {insertButton, graphButton, editFunctionButton, editVariableButton,
                                 libraryButton, helpButton})
         others->addWidget(button);
@@ -219,47 +200,22 @@ void DifferentiationPage::BuildControls(const QString &function) {
     connect(stopButton, &QPushButton::clicked, this, &DifferentiationPage::Stop);
     connect(insertButton, &QPushButton::clicked, this, &DifferentiationPage::InsertAnswer);
     connect(graphButton, &QPushButton::clicked, this, &DifferentiationPage::GraphAnswer);
-    connect(editFunctionButton, &QPushButton::clicked, this, [this] {
-        if (!guard.idle()) return;
-        workbench.RunDocumentTool(document, command::kFunctionManager);
-        ReloadFunctionList();
-    });
-    connect(editVariableButton, &QPushButton::clicked, this, [this] {
-        if (guard.idle()) workbench.RunDocumentTool(document, command::kVariablesManager);
-    });
-    connect(libraryButton, &QPushButton::clicked, this, [this] {
-        if (guard.idle()) workbench.RunClientTool(command::kFunctionLibrary);
-    });
-    connect(helpButton, &QPushButton::clicked, this,
-            [this] { workbench.Services().ShowHelpTopic(kHelpTopic); });
+    ConnectPageTools({editFunctionButton, editVariableButton, libraryButton, helpButton}, workbench,
+                     document, guard, [this] { ReloadFunctionList(); });
 }
 
 void DifferentiationPage::ReloadFunctionList() {
-    const QString text = functionBox->currentText();
-    filling = true;
-    functionBox->clear();
-    for (const std::string &entry : calculus::FunctionEntries(document.Engine()))
-        functionBox->addItem(Text(entry));
-    const int index = functionBox->findText(text);
-    if (index >= 0)
-        functionBox->setCurrentIndex(index);
-    else
-        functionBox->setEditText(text);
-    filling = false;
+    FillFunctionBox(functionBox, document.Engine());
 }
 
 void DifferentiationPage::LoadSettings() {
     const DifferentiationParameters &stored = document.Content().differentiation;
     filling = true;
-    const int index = functionBox->findText(Text(stored.DiffFunc));
-    if (index >= 0)
-        functionBox->setCurrentIndex(index);
-    else
-        functionBox->setEditText(Text(stored.DiffFunc));
-    variableBox->setEditText(Text(stored.DiffVar));
-    startEdit->setText(Text(stored.DiffXo));
-    endEdit->setText(Text(stored.DiffXn));
-    stepsEdit->setText(Text(stored.DiffIn));
+    ShowFunctionText(functionBox, FromStd(stored.DiffFunc));
+    variableBox->setEditText(FromStd(stored.DiffVar));
+    startEdit->setText(FromStd(stored.DiffXo));
+    endEdit->setText(FromStd(stored.DiffXn));
+    stepsEdit->setText(FromStd(stored.DiffIn));
     for (int box = 0; box < 4; ++box) columnBoxes[box]->setChecked(stored.*kShownFields[box] != 0);
     precisionBox->setValue(std::clamp(stored.DiffPrecision, 1, 14));
     filling = false;
@@ -285,7 +241,7 @@ std::array<bool, 4> DifferentiationPage::Shown() const {
 }
 
 QString DifferentiationPage::Variable() const {
-    return Text(calculus::CurrentVariable(variableBox->currentText().toStdString()));
+    return FromStd(calculus::CurrentVariable(variableBox->currentText().toStdString()));
 }
 
 calculus::DifferentiationSettings DifferentiationPage::ReadBoxes() const {
@@ -334,7 +290,7 @@ void DifferentiationPage::RetitleColumns() {
     const std::string variable = Variable().toStdString();
     for (int box = 0; box < 4; ++box) {
         const QString title =
-            Text(calculus::ColumnTitle(calculus::kFunctionColumn + box, variable));
+            FromStd(calculus::ColumnTitle(calculus::kFunctionColumn + box, variable));
         columnBoxes[box]->setText(title);
         columnBoxes[box]->setAccessibleName(title);
     }
@@ -344,7 +300,7 @@ void DifferentiationPage::RetitleColumns() {
 void DifferentiationPage::ShowCell(int row, int column) {
     const int listColumn = calculus::ListColumn(column, Shown());
     if (listColumn < 0) return;
-    const QString text = Text(calculus::AnswerText(
+    const QString text = FromStd(calculus::AnswerText(
         document.Engine(), table.columns[column][static_cast<std::size_t>(row)],
         precisionBox->value()));
     QTableWidgetItem *item = list->item(row, listColumn);
@@ -360,7 +316,7 @@ void DifferentiationPage::RewriteTable() {
     QStringList titles;
     for (int column = 0; column < calculus::kTableColumns; ++column)
         if (calculus::ListColumn(column, shown) >= 0)
-            titles << Text(calculus::ColumnTitle(column, variable));
+            titles << FromStd(calculus::ColumnTitle(column, variable));
     list->clearContents();
     list->setColumnCount(static_cast<int>(titles.size()));
     list->setHorizontalHeaderLabels(titles);

@@ -23,6 +23,7 @@
 
 #include "app_setting_keys.h"
 #include "calculus_messages.h"
+#include "calculus_page_parts.h"
 #include "calculus_run_host.h"
 #include "document_window.h"
 #include "math_editor_widget.h"
@@ -42,13 +43,6 @@ constexpr const char *kLoadFilter =
 constexpr const char *kSaveFilter =
     "Text (Tab Delimited) (*.txt);;CSV (Comma Delimited) (*.csv);;Formatted Text (Space "
     "Delimited) (*.prn)";
-
-QPushButton *Button(const QString &text, QWidget *parent) {
-    auto *button = new QPushButton(text, parent);
-    button->setAccessibleName(text.simplified());
-    button->setAutoDefault(false);
-    return button;
-}
 
 }  // namespace
 
@@ -200,15 +194,15 @@ void FunctionSolverDialog::BuildControls() {
     layout->addLayout(solutionRow);
 
     auto *buttons = new QGridLayout;
-    clearButton = Button(QStringLiteral("Clear"), this);
-    loadButton = Button(QStringLiteral(" Load Data        File"), this);
-    saveButton = Button(QStringLiteral(" Save Data        File"), this);
-    auto *solveButton = Button(QStringLiteral("Solve"), this);
-    insertFunctionButton = Button(QStringLiteral("Insert F[x]"), this);
-    insertAnswerButton = Button(QStringLiteral("Insert Ans."), this);
-    auto *functionHelpButton = Button(QStringLiteral(" Help F[x]"), this);
-    auto *helpButton = Button(QStringLiteral("Help"), this);
-    auto *quitButton = Button(QStringLiteral("Quit"), this);
+    clearButton = PageButton(QStringLiteral("Clear"), this);
+    loadButton = PageButton(QStringLiteral(" Load Data        File"), this);
+    saveButton = PageButton(QStringLiteral(" Save Data        File"), this);
+    auto *solveButton = PageButton(QStringLiteral("Solve"), this);
+    insertFunctionButton = PageButton(QStringLiteral("Insert F[x]"), this);
+    insertAnswerButton = PageButton(QStringLiteral("Insert Ans."), this);
+    auto *functionHelpButton = PageButton(QStringLiteral(" Help F[x]"), this);
+    auto *helpButton = PageButton(QStringLiteral("Help"), this);
+    auto *quitButton = PageButton(QStringLiteral("Quit"), this);
     const QPushButton *order[] = {solveButton,        insertFunctionButton, insertAnswerButton,
                                   clearButton,        loadButton,           saveButton,
                                   functionHelpButton, helpButton,           quitButton};

@@ -21,6 +21,7 @@
 
 #include "app_setting_keys.h"
 #include "calculus_messages.h"
+#include "calculus_page_parts.h"
 #include "command_table.h"
 #include "differentiation_run.h"
 #include "document_window.h"
@@ -31,12 +32,7 @@ namespace quindar {
 
 namespace {
 
-constexpr int kHelpTopic = 19486;
 constexpr const char *kAxisNames[] = {"X", "Y", "Z"};
-
-QString Text(const std::string &text) {
-    return QString::fromStdString(text);
-}
 
 std::string Trimmed(const QString &text) {
     return text.trimmed().toStdString();
@@ -56,13 +52,6 @@ constexpr AxisFields kAxisFields[] = {
     {&IntegrationParameters::IntZParam, &IntegrationParameters::IntZLoLimit,
      &IntegrationParameters::IntZHiLimit},
 };
-
-QPushButton *Button(const QString &text, QWidget *parent) {
-    auto *button = new QPushButton(text, parent);
-    button->setAccessibleName(QString(text).remove(QLatin1Char('&')).trimmed());
-    button->setAutoDefault(false);
-    return button;
-}
 
 }  // namespace
 
@@ -84,11 +73,7 @@ void IntegrationPage::BuildControls(const QString &function) {
 
     auto *functionRow = new QHBoxLayout;
     auto *functionLabel = new QLabel(QStringLiteral("&Function"), this);
-    functionBox = new QComboBox(this);
-    functionBox->setEditable(true);
-    functionBox->setInsertPolicy(QComboBox::NoInsert);
-    functionBox->setMinimumContentsLength(40);
-    functionBox->setAccessibleName(QStringLiteral("Function"));
+    functionBox = FunctionBox(this);
     functionLabel->setBuddy(functionBox);
     functionRow->addWidget(functionLabel);
     functionRow->addWidget(functionBox, 1);
@@ -171,26 +156,22 @@ void IntegrationPage::BuildControls(const QString &function) {
     answerEdit->setReadOnly(true);
     answerEdit->setAccessibleName(QStringLiteral("Answer"));
     answerLabel->setBuddy(answerEdit);
-    gauge = new QProgressBar(this);
-    gauge->setRange(0, 100);
-    gauge->setFormat(QStringLiteral("%p% Done"));
-    gauge->setAccessibleName(QStringLiteral("Progress"));
-    gauge->hide();
+    gauge = RunGauge(this);
     answerRow->addWidget(answerLabel);
     answerRow->addWidget(answerEdit, 1);
     answerRow->addWidget(gauge, 1);
     layout->addLayout(answerRow);
 
     auto *buttons = new QHBoxLayout;
-    computeButton = Button(QStringLiteral("Compute"), this);
-    stopButton = Button(QStringLiteral("Stop"), this);
+    computeButton = PageButton(QStringLiteral("Compute"), this);
+    stopButton = PageButton(QStringLiteral("Stop"), this);
     stopButton->hide();
-    insertButton = Button(QStringLiteral("Insert Ans."), this);
+    insertButton = PageButton(QStringLiteral("Insert Ans."), this);
     insertButton->setEnabled(false);
-    editFunctionButton = Button(QStringLiteral("Edit Function"), this);
-    editVariableButton = Button(QStringLiteral("Edit Variable"), this);
-    libraryButton = Button(QStringLiteral("Func Lib."), this);
-    auto *helpButton = Button(QStringLiteral("Help"), this);
+    editFunctionButton = PageButton(QStringLiteral("Edit Function"), this);
+    editVariableButton = PageButton(QStringLiteral("Edit Variable"), this);
+    libraryButton = PageButton(QStringLiteral("Func Lib."), this);
+    auto *helpButton = PageButton(QStringLiteral("Help"), this);
     for (QPushButton *button : {computeButton, stopButton, insertButton, editFunctionButton,
                                 editVariableButton, libraryButton, helpButton})
         buttons->addWidget(button);
@@ -202,7 +183,7 @@ void IntegrationPage::BuildControls(const QString &function) {
     int given = -1;
     if (!function.isEmpty()) {
         for (std::size_t i = 0; i < entries.size() && given < 0; ++i)
-            if (Text(entries[i]).startsWith(function)) given = static_cast<int>(i);
+            if (FromStd(entries[i]).startsWith(function)) given = static_cast<int>(i);
     }
     const int storedPrecision = workbench.Settings().Read(settings::kIntegrationPrecision);
     precisionBox->setValue(std::clamp(storedPrecision, 1, 14));
@@ -234,46 +215,26 @@ void IntegrationPage::BuildControls(const QString &function) {
     connect(computeButton, &QPushButton::clicked, this, &IntegrationPage::Compute);
     connect(stopButton, &QPushButton::clicked, this, &IntegrationPage::Stop);
     connect(insertButton, &QPushButton::clicked, this, &IntegrationPage::InsertAnswer);
-    connect(editFunctionButton, &QPushButton::clicked, this, [this] {
-        if (!guard.idle()) return;
-        workbench.RunDocumentTool(document, command::kFunctionManager);
-        const QString text = functionBox->currentText();
-        ReloadFunctionList();
-        if (functionAppended || functionBox->findText(text) < 0) functionBox->setEditText(text);
-        functionAppended = false;
-    });
-    connect(editVariableButton, &QPushButton::clicked, this, [this] {
-        if (guard.idle()) workbench.RunDocumentTool(document, command::kVariablesManager);
-    });
-    connect(libraryButton, &QPushButton::clicked, this, [this] {
-        if (guard.idle()) workbench.RunClientTool(command::kFunctionLibrary);
-    });
-    connect(helpButton, &QPushButton::clicked, this,
-            [this] { workbench.Services().ShowHelpTopic(kHelpTopic); });
+    ConnectPageTools({editFunctionButton, editVariableButton, libraryButton, helpButton}, workbench,
+                     document, guard, [this] {
+                         // The box keeps its choice, or its text when that is no entry any more
+                         // or was added to.
+                         const QString text = functionBox->currentText();
+                         ReloadFunctionList();
+                         if (functionAppended || functionBox->findText(text) < 0)
+                             functionBox->setEditText(text);
+                         functionAppended = false;
+                     });
 }
 
 void IntegrationPage::ReloadFunctionList() {
-    const QString text = functionBox->currentText();
-    filling = true;
-    functionBox->clear();
-    for (const std::string &entry : calculus::FunctionEntries(document.Engine()))
-        functionBox->addItem(Text(entry));
-    const int index = functionBox->findText(text);
-    if (index >= 0)
-        functionBox->setCurrentIndex(index);
-    else
-        functionBox->setEditText(text);
-    filling = false;
+    FillFunctionBox(functionBox, document.Engine());
 }
 
 void IntegrationPage::LoadSettings() {
     const IntegrationParameters &stored = document.Content().integration;
     filling = true;
-    const int index = functionBox->findText(Text(stored.IntFunc));
-    if (index >= 0)
-        functionBox->setCurrentIndex(index);
-    else
-        functionBox->setEditText(Text(stored.IntFunc));
+    ShowFunctionText(functionBox, FromStd(stored.IntFunc));
     const int type = std::clamp(stored.IntType, 1, 3);
     const std::string expression = calculus::ModifyString(
         Trimmed(functionBox->currentText()), calculus::FunctionEntries(document.Engine()));
@@ -281,9 +242,9 @@ void IntegrationPage::LoadSettings() {
     for (int axis = 0; axis < 3; ++axis) {
         const AxisFields &fields = kAxisFields[axis];
         if (!(stored.*fields.parameter).empty())
-            parameterBoxes[axis]->setEditText(Text(stored.*fields.parameter));
-        lowEdits[axis]->setText(Text(stored.*fields.low));
-        highEdits[axis]->setText(Text(stored.*fields.high));
+            parameterBoxes[axis]->setEditText(FromStd(stored.*fields.parameter));
+        lowEdits[axis]->setText(FromStd(stored.*fields.low));
+        highEdits[axis]->setText(FromStd(stored.*fields.high));
     }
     slider->setValue(std::clamp(stored.IntAccuracy, 0, 100));
     precisionBox->setValue(std::clamp(stored.IntPrecision, 1, 14));
@@ -337,7 +298,8 @@ void IntegrationPage::ShowParameterBoxes(const calculus::ParameterBoxes &shown) 
     boxes = shown;
     for (int axis = 0; axis < 3; ++axis) {
         parameterBoxes[axis]->clear();
-        for (const std::string &entry : boxes.entries) parameterBoxes[axis]->addItem(Text(entry));
+        for (const std::string &entry : boxes.entries)
+            parameterBoxes[axis]->addItem(FromStd(entry));
         parameterBoxes[axis]->setCurrentIndex(boxes.selected[axis]);
         axisRows[axis]->setVisible(axis < boxes.type);
     }
@@ -380,7 +342,7 @@ void IntegrationPage::ClearAnswer() {
 
 void IntegrationPage::WriteSolution() {
     answerEdit->setText(
-        Text(calculus::AnswerText(document.Engine(), solution, precisionBox->value())));
+        FromStd(calculus::AnswerText(document.Engine(), solution, precisionBox->value())));
     insertButton->setEnabled(true);
 }
 
