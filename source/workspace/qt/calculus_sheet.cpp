@@ -32,13 +32,13 @@ CalculusSheet::CalculusSheet(Workbench &workbench, DocumentWindow &owner, const 
     setAttribute(Qt::WA_DeleteOnClose);
     auto *layout = new QVBoxLayout(this);
     layout->setSizeConstraint(QLayout::SetMinimumSize);
-    tabs = new QTabWidget(this);
-    tabs->setAccessibleName(QStringLiteral("Calculus Pages"));
-    integration = new IntegrationPage(workbench, owner, function, tabs);
-    differentiation = new DifferentiationPage(workbench, owner, function, tabs);
-    tabs->addTab(integration, QStringLiteral("Integration"));
-    tabs->addTab(differentiation, QStringLiteral("Differentiation"));
-    layout->addWidget(tabs);
+    tabBook = new QTabWidget(this);
+    tabBook->setAccessibleName(QStringLiteral("Calculus Pages"));
+    integration = new IntegrationPage(workbench, owner, function, tabBook);
+    differentiation = new DifferentiationPage(workbench, owner, function, tabBook);
+    tabBook->addTab(integration, QStringLiteral("Integration"));
+    tabBook->addTab(differentiation, QStringLiteral("Differentiation"));
+    layout->addWidget(tabBook);
 
     auto *buttons = new QDialogButtonBox(
         QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Apply, this);
@@ -56,26 +56,29 @@ CalculusSheet::CalculusSheet(Workbench &workbench, DocumentWindow &owner, const 
             &CalculusSheet::Apply);
     layout->addWidget(buttons);
 
-    connect(integration, &IntegrationPage::runStarted, this, [this] { RunStarted(integration); });
-    connect(differentiation, &DifferentiationPage::runStarted, this,
-            [this] { RunStarted(differentiation); });
-    connect(integration, &IntegrationPage::runFinished, this, &CalculusSheet::RunFinished);
-    connect(differentiation, &DifferentiationPage::runFinished, this, &CalculusSheet::RunFinished);
+    for (CalculusPage *each : Pages()) {
+        connect(each, &CalculusPage::runStarted, this, [this, each] { RunStarted(each); });
+        connect(each, &CalculusPage::runFinished, this, &CalculusSheet::RunFinished);
+    }
 
     SelectPage(page);
     // Leaving a page keeps its boxes in the document.
-    connect(tabs, &QTabWidget::currentChanged, this, &CalculusSheet::Apply);
+    connect(tabBook, &QTabWidget::currentChanged, this, &CalculusSheet::Apply);
     adjustSize();
     if (const QScreen *screen = QGuiApplication::primaryScreen())
         move(screen->availableGeometry().center() - rect().center());
 }
 
+std::array<CalculusPage *, 2> CalculusSheet::Pages() const {
+    return {integration, differentiation};
+}
+
 int CalculusSheet::CurrentPage() const {
-    return tabs->currentWidget() == integration ? 0 : 1;
+    return tabBook->currentWidget() == integration ? 0 : 1;
 }
 
 void CalculusSheet::SelectPage(int page) {
-    tabs->setCurrentWidget(page == 0 ? static_cast<QWidget *>(integration) : differentiation);
+    tabBook->setCurrentWidget(page == 0 ? static_cast<QWidget *>(integration) : differentiation);
 }
 
 DocumentActivity CalculusSheet::Activity() const {
@@ -86,23 +89,21 @@ DocumentActivity CalculusSheet::Activity() const {
 }
 
 void CalculusSheet::Apply() {
-    integration->StoreSettings();
-    differentiation->StoreSettings();
+    for (CalculusPage *each : Pages()) each->StoreSettings();
 }
 
 void CalculusSheet::ReloadFunctionList() {
-    integration->ReloadFunctionList();
-    differentiation->ReloadFunctionList();
+    for (CalculusPage *each : Pages()) each->ReloadFunctionList();
 }
 
 void CalculusSheet::RunStarted(QWidget *page) {
     // The other page can't be chosen while this one runs.
-    for (int index = 0; index < tabs->count(); ++index)
-        tabs->setTabEnabled(index, tabs->widget(index) == page);
+    for (int index = 0; index < tabBook->count(); ++index)
+        tabBook->setTabEnabled(index, tabBook->widget(index) == page);
 }
 
 void CalculusSheet::RunFinished() {
-    for (int index = 0; index < tabs->count(); ++index) tabs->setTabEnabled(index, true);
+    for (int index = 0; index < tabBook->count(); ++index) tabBook->setTabEnabled(index, true);
 }
 
 bool CalculusSheet::event(QEvent *event) {
@@ -116,7 +117,9 @@ bool CalculusSheet::event(QEvent *event) {
 }
 
 bool CalculusSheet::CanClose() {
-    return integration->CanClose() && differentiation->CanClose();
+    for (CalculusPage *each : Pages())
+        if (!each->CanClose()) return false;
+    return true;
 }
 
 void CalculusSheet::done(int result) {

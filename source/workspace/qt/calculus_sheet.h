@@ -8,6 +8,7 @@
 // run.
 
 #include <QDialog>
+#include <array>
 
 #include "document_close_rules.h"
 
@@ -15,6 +16,7 @@ class QTabWidget;
 
 namespace quindar {
 
+class CalculusPage;
 class DifferentiationPage;
 class DocumentWindow;
 class IntegrationPage;
@@ -29,7 +31,8 @@ public:
 
     IntegrationPage &Integration() { return *integration; }
     DifferentiationPage &Differentiation() { return *differentiation; }
-    QTabWidget &Pages() { return *tabs; }
+    QTabWidget &Tabs() { return *tabBook; }
+    std::array<CalculusPage *, 2> Pages() const;
     int CurrentPage() const;
     void SelectPage(int page);
     // What the document reports while one of the pages runs.
@@ -49,7 +52,7 @@ private:
     bool CanClose();
 
     DocumentWindow &document;
-    QTabWidget *tabs = nullptr;
+    QTabWidget *tabBook = nullptr;
     IntegrationPage *integration = nullptr;
     DifferentiationPage *differentiation = nullptr;
 };

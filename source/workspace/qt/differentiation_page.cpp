@@ -55,11 +55,9 @@ QLineEdit *LabelledEdit(const QString &label, const QString &name, QGridLayout *
 
 DifferentiationPage::DifferentiationPage(Workbench &bench, DocumentWindow &owner,
                                          const QString &function, QWidget *parent)
-    : QWidget(parent),
-      workbench(bench),
-      document(owner),
-      host(bench, this),
-      guard(calculus::kCloseDuringDifferentiation, calculus::kDifferentiationManagerOpen) {
+    : CalculusPage(bench, owner, calculus::kDifferentiationTitle,
+                   calculus::kCloseDuringDifferentiation, calculus::kDifferentiationManagerOpen,
+                   parent) {
     setAccessibleName(QStringLiteral("Differentiation"));
     BuildControls(function);
     host.gauge = gauge;
@@ -372,10 +370,6 @@ void DifferentiationPage::Compute() {
     emit runFinished();
 }
 
-void DifferentiationPage::Stop() {
-    host.RequestStop();
-}
-
 void DifferentiationPage::InsertAnswer() {
     if (!guard.idle() || !table.has_data()) return;
     std::set<std::size_t> chosen;
@@ -423,14 +417,6 @@ void DifferentiationPage::AppendToFunction(const QString &text) {
     const QString joined = functionBox->currentText() + text;
     functionBox->setCurrentIndex(-1);
     functionBox->setEditText(joined);
-}
-
-bool DifferentiationPage::CanClose() {
-    const calculus::CloseDecision decision = guard.can_close(false);
-    if (decision.message != 0)
-        workbench.Messages().ShowPlain(this, CalculusText(decision.message),
-                                       CalculusText(calculus::kDifferentiationTitle), kBoxWarning);
-    return decision.allowed;
 }
 
 void DifferentiationPage::SelectField(calculus::Field field) {

@@ -7,13 +7,11 @@
 // goes on. "Insert Ans." writes rows into the document's text, "Graph Ans." makes them a graph
 // of the document. The run and the texts are the calculus library's; this page shows them.
 
-#include <QWidget>
 #include <array>
 #include <functional>
 
-#include "calculus_run_host.h"
+#include "calculus_page.h"
 #include "differentiation_run.h"
-#include "page_guard.h"
 
 class QCheckBox;
 class QComboBox;
@@ -29,37 +27,27 @@ namespace quindar {
 class DocumentWindow;
 class Workbench;
 
-class DifferentiationPage : public QWidget {
+class DifferentiationPage : public CalculusPage {
     Q_OBJECT
 public:
     DifferentiationPage(Workbench &workbench, DocumentWindow &document, const QString &function,
                         QWidget *parent = nullptr);
 
-    bool Computing() const { return guard.computing(); }
-    bool CanClose();
-    void StoreSettings();
-    void ReloadFunctionList();
-    void AppendToFunction(const QString &text);
+    void StoreSettings() override;
+    void ReloadFunctionList() override;
+    void AppendToFunction(const QString &text) override;
 
     const calculus::DifferentiationTable &Table() const { return table; }
     QTableWidget *List() const { return list; }
-    QPushButton *ComputeButton() const { return computeButton; }
-    QPushButton *StopButton() const { return stopButton; }
-    QPushButton *InsertButton() const { return insertButton; }
     QPushButton *GraphButton() const { return graphButton; }
 
     // Draws a graph the page has put into the document's list; the graph window's.
     std::function<void(DocumentWindow &document)> drawGraph;
 
 public slots:
-    void Compute();
-    void Stop();
+    void Compute() override;
     void InsertAnswer();
     void GraphAnswer();
-
-signals:
-    void runStarted();
-    void runFinished();
 
 private:
     void BuildControls(const QString &function);
@@ -77,10 +65,6 @@ private:
     void SelectField(calculus::Field field);
     void ShowCell(int row, int column);
 
-    Workbench &workbench;
-    DocumentWindow &document;
-    CalculusRunHost host;
-    calculus::PageGuard guard;
     calculus::DifferentiationTable table;
     // The cells of each table column already shown in the list during a run.
     std::array<std::size_t, calculus::kTableColumns> shownCells{};
@@ -97,9 +81,6 @@ private:
     QLabel *statusText = nullptr;
     QProgressBar *gauge = nullptr;
     QSpinBox *precisionBox = nullptr;
-    QPushButton *computeButton = nullptr;
-    QPushButton *stopButton = nullptr;
-    QPushButton *insertButton = nullptr;
     QPushButton *graphButton = nullptr;
     QWidget *otherButtons = nullptr;
 };

@@ -57,11 +57,8 @@ constexpr AxisFields kAxisFields[] = {
 
 IntegrationPage::IntegrationPage(Workbench &bench, DocumentWindow &owner, const QString &function,
                                  QWidget *parent)
-    : QWidget(parent),
-      workbench(bench),
-      document(owner),
-      host(bench, this),
-      guard(calculus::kCloseDuringIntegration, calculus::kIntegrationManagerOpen) {
+    : CalculusPage(bench, owner, calculus::kIntegrationTitle, calculus::kCloseDuringIntegration,
+                   calculus::kIntegrationManagerOpen, parent) {
     setAccessibleName(QStringLiteral("Integration"));
     BuildControls(function);
     host.gauge = gauge;
@@ -401,10 +398,6 @@ void IntegrationPage::Compute() {
     emit runFinished();
 }
 
-void IntegrationPage::Stop() {
-    host.RequestStop();
-}
-
 void IntegrationPage::InsertAnswer() {
     if (!hasSolution || !guard.idle()) return;
     MathEditorWidget &pane = document.TextPane();
@@ -418,14 +411,6 @@ void IntegrationPage::AppendToFunction(const QString &text) {
     functionBox->setCurrentIndex(-1);
     functionBox->setEditText(joined);
     functionAppended = true;
-}
-
-bool IntegrationPage::CanClose() {
-    const calculus::CloseDecision decision = guard.can_close(false);
-    if (decision.message != 0)
-        workbench.Messages().ShowPlain(this, CalculusText(decision.message),
-                                       CalculusText(calculus::kIntegrationTitle), kBoxWarning);
-    return decision.allowed;
 }
 
 void IntegrationPage::SelectField(calculus::Field field) {

@@ -7,13 +7,11 @@
 // answer, which "Insert Ans." writes into the document's text. The run itself is the
 // calculus library's; this page only shows it.
 
-#include <QWidget>
 #include <array>
 #include <string>
 
-#include "calculus_run_host.h"
+#include "calculus_page.h"
 #include "integration_run.h"
-#include "page_guard.h"
 #include "parameter_boxes.h"
 
 class QComboBox;
@@ -30,35 +28,22 @@ namespace quindar {
 class DocumentWindow;
 class Workbench;
 
-class IntegrationPage : public QWidget {
+class IntegrationPage : public CalculusPage {
     Q_OBJECT
 public:
     IntegrationPage(Workbench &workbench, DocumentWindow &document, const QString &function,
                     QWidget *parent = nullptr);
 
-    bool Computing() const { return guard.computing(); }
-    // Closing the sheet: refused during a run, with the message once per run.
-    bool CanClose();
-    // The page's boxes into the document's settings.
-    void StoreSettings();
-    void ReloadFunctionList();
-    // The Function Library and the Function Manager add text behind the function box's.
-    void AppendToFunction(const QString &text);
+    void StoreSettings() override;
+    void ReloadFunctionList() override;
+    void AppendToFunction(const QString &text) override;
 
     // The last answer's text, empty when there is none.
     QString AnswerText() const;
-    QPushButton *ComputeButton() const { return computeButton; }
-    QPushButton *StopButton() const { return stopButton; }
-    QPushButton *InsertButton() const { return insertButton; }
 
 public slots:
-    void Compute();
-    void Stop();
+    void Compute() override;
     void InsertAnswer();
-
-signals:
-    void runStarted();
-    void runFinished();
 
 private:
     void BuildControls(const QString &function);
@@ -75,10 +60,6 @@ private:
     void ShowRunning(bool running, int type);
     int Type() const;
 
-    Workbench &workbench;
-    DocumentWindow &document;
-    CalculusRunHost host;
-    calculus::PageGuard guard;
     calculus::ParameterBoxes boxes;
     bool hasSolution = false;
     long double solution = 0.0L;
@@ -96,9 +77,6 @@ private:
     QSpinBox *precisionBox = nullptr;
     QLineEdit *answerEdit = nullptr;
     QProgressBar *gauge = nullptr;
-    QPushButton *computeButton = nullptr;
-    QPushButton *stopButton = nullptr;
-    QPushButton *insertButton = nullptr;
     QPushButton *editFunctionButton = nullptr;
     QPushButton *editVariableButton = nullptr;
     QPushButton *libraryButton = nullptr;

@@ -234,7 +234,7 @@ void CalculusWindows::closingDuringARunAsksOnceAndIsRefused() {
     QTimer::singleShot(200, sheet, [&] {
         sheet->close();
         sheet->close();  // the message comes once per run
-        otherPageChoosable = sheet->Pages().isTabEnabled(1);
+        otherPageChoosable = sheet->Tabs().isTabEnabled(1);
         documentClosable = harness.Current()->CanClose();
         harness.Current()->ForgetCloseAnswer();
         page.Stop();
@@ -244,7 +244,7 @@ void CalculusWindows::closingDuringARunAsksOnceAndIsRefused() {
     QVERIFY(sheet->isVisible());
     QVERIFY(!otherPageChoosable);
     QVERIFY(!documentClosable);
-    QVERIFY(sheet->Pages().isTabEnabled(1));
+    QVERIFY(sheet->Tabs().isTabEnabled(1));
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
     // Once the run is over the sheet closes without a word.
     sheet->close();
