@@ -324,6 +324,12 @@ void DifferentiationPage::RewriteTable() {
         for (std::size_t row = 0; row < cells; ++row) ShowCell(static_cast<int>(row), column);
         shownCells[column] = cells;
     }
+    if (guard.idle()) {
+        // Whole values once the run is over; while it goes on the columns stay as they are.
+        list->resizeColumnsToContents();
+        for (int column = 0; column < list->columnCount(); ++column)
+            list->setColumnWidth(column, std::max(list->columnWidth(column), kColumnWidth));
+    }
 }
 
 void DifferentiationPage::ShowNewCells() {
@@ -350,12 +356,14 @@ void DifferentiationPage::HideControls(bool running) {
 
 void DifferentiationPage::Compute() {
     if (!guard.begin()) return;
-    InputChanged();
+    // A run starts from an empty table; its rows show as they come.
+    table.clear();
+    RewriteTable();
+    insertButton->setEnabled(false);
+    graphButton->setEnabled(false);
     const calculus::DifferentiationSettings settings = ReadBoxes();
     StoreSettings();
     host.Begin();
-    shownCells = {};
-    RewriteTable();
     HideControls(true);
     emit runStarted();
     calculus::DifferentiationRun run(document.Engine(), host, precisionBox->value());

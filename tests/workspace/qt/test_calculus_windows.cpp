@@ -380,15 +380,23 @@ void CalculusWindows::differentiationStopKeepsTheRowsDone() {
     SetText(&page, QStringLiteral("Xo"), QStringLiteral("0"));
     SetText(&page, QStringLiteral("Xn"), QStringLiteral("1"));
     SetText(&page, QStringLiteral("n"), QStringLiteral("100000"));
+    // A first short run, whose rows the long one must not show.
+    SetText(&page, QStringLiteral("n"), QStringLiteral("3"));
+    page.ComputeButton()->click();
+    QCOMPARE(page.List()->item(2, 1)->text(), QStringLiteral("2"));
+    SetText(&page, QStringLiteral("n"), QStringLiteral("100000"));
     int rowsShownDuringRun = 0;
     bool statusShown = false;
+    QString secondRowDuringRun;
     QTimer::singleShot(300, &page, [&] {
         rowsShownDuringRun = page.List()->rowCount();
+        secondRowDuringRun = page.List()->item(1, 0)->text();
         statusShown = Named<QLabel>(&page, QStringLiteral("Status"))->isVisibleTo(&page);
         page.StopButton()->click();
     });
     page.ComputeButton()->click();
-    QVERIFY(rowsShownDuringRun > 0);
+    QVERIFY(rowsShownDuringRun > 2);
+    QCOMPARE(secondRowDuringRun, QStringLiteral("1.0000100001e-05"));
     QVERIFY(statusShown);
     const auto &table = page.Table();
     QVERIFY(table.rows() > 0);
@@ -542,6 +550,18 @@ void CalculusWindows::screenshots() {
     SetText(&differentiation, QStringLiteral("Variable"), QStringLiteral("x"));
     SetText(&differentiation, QStringLiteral("Xo"), QStringLiteral("-1"));
     SetText(&differentiation, QStringLiteral("Xn"), QStringLiteral("1"));
+    SetText(&differentiation, QStringLiteral("n"), QStringLiteral("9"));
+    differentiation.ComputeButton()->click();
+    // A long run, pictured while it goes on.
+    SetText(&differentiation, QStringLiteral("n"), QStringLiteral("100000"));
+    bool runningSaved = false;
+    QTimer::singleShot(300, &differentiation, [&] {
+        runningSaved =
+            sheet->grab().save(folder + QStringLiteral("/calculus_differentiation_running.png"));
+        differentiation.Stop();
+    });
+    differentiation.ComputeButton()->click();
+    QVERIFY(runningSaved);
     SetText(&differentiation, QStringLiteral("n"), QStringLiteral("9"));
     differentiation.ComputeButton()->click();
     QApplication::processEvents();  // the sheet grows to what its pages now hold
