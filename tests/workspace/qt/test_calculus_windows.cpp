@@ -581,6 +581,19 @@ void CalculusWindows::screenshots() {
     solver->Equals();
     QApplication::processEvents();
     QVERIFY(solver->grab().save(folder + QStringLiteral("/function_solver.png")));
+    // The list form: rows of numbers and the trailing names in the last boxes.
+    solver->FormButton(1)->click();
+    const QString rows[] = {QStringLiteral("2.5"), QStringLiteral("3"), QStringLiteral("4.5"),
+                            QStringLiteral("5"),   QStringLiteral("3"), QStringLiteral("5")};
+    for (int box = 0; box < 6; ++box) {
+        solver->Box(box)->setFocus();
+        solver->Box(box)->setText(rows[box]);
+    }
+    solver->Box(5)->setFocus();
+    solver->Equals();
+    QVERIFY(!solver->Solution().isEmpty());
+    QApplication::processEvents();
+    QVERIFY(solver->grab().save(folder + QStringLiteral("/function_solver_list.png")));
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
