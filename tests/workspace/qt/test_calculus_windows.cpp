@@ -23,6 +23,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include "app_settings.h"
 #include "calculus_sheet.h"
 #include "calculus_tools.h"
 #include "command_table.h"
@@ -99,6 +100,8 @@ private slots:
     void solverSavesAndLoadsItsList();
     void solverSwitchesBetweenTheTwoForms();
     void solverRefusesSevenParameters();
+    void precisionsAreKeptInTheSettings();
+    void equalsKeyIsTypedIntoLogicalExpressions();
     void screenshots();
 };
 
@@ -524,6 +527,45 @@ void CalculusWindows::solverRefusesSevenParameters() {
     FunctionSolverDialog *solver = OpenFunctionSolver(harness.Bench(), *harness.Current(),
                                                       QStringLiteral("F[a,b,c,d,e,f,g]"), {});
     QVERIFY(!solver->Box(0)->isVisibleTo(solver));
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void CalculusWindows::precisionsAreKeptInTheSettings() {
+    DesktopHarness harness;
+    CalculusSheet *sheet = OpenSheet(harness);
+    Named<QSpinBox>(&sheet->Integration(), QStringLiteral("Precision"))->setValue(9);
+    Named<QSpinBox>(&sheet->Differentiation(), QStringLiteral("Precision"))->setValue(4);
+    FunctionSolverDialog *solver =
+        OpenFunctionSolver(harness.Bench(), *harness.Current(),
+                           QStringLiteral("MEAN[{number1,number2,...numberN}]"), QString());
+    Named<QSpinBox>(solver, QStringLiteral("Precision"))->setValue(11);
+    const AppSettings settings = harness.Bench().Settings();
+    QCOMPARE(settings.IntegrationPrecision(), 9);
+    QCOMPARE(settings.DifferentiationPrecision(), 4);
+    QCOMPARE(settings.SolverPrecision(), 11);
+    // A shown answer follows the precision without computing again.
+    IntegrationPage &page = sheet->Integration();
+    SetText(&page, QStringLiteral("Function"), QStringLiteral("1/3"));
+    SetText(&page, QStringLiteral("X Low Limit"), QStringLiteral("0"));
+    SetText(&page, QStringLiteral("X High Limit"), QStringLiteral("1"));
+    page.ComputeButton()->click();
+    QCOMPARE(page.AnswerText(), QStringLiteral("0.333333333"));
+    Named<QSpinBox>(&page, QStringLiteral("Precision"))->setValue(3);
+    QCOMPARE(page.AnswerText(), QStringLiteral("0.333"));
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void CalculusWindows::equalsKeyIsTypedIntoLogicalExpressions() {
+    DesktopHarness harness;
+    FunctionSolverDialog *solver =
+        OpenFunctionSolver(harness.Bench(), *harness.Current(),
+                           QStringLiteral("AND[logicalExp1,logicalExp2,...logicalExpN]"), {});
+    QApplication::setActiveWindow(solver);
+    QCOMPARE(solver->BoxLabel(0)->text(), QStringLiteral("Logical Expression 1"));
+    solver->Box(0)->setFocus();
+    QTest::keyClicks(solver->Box(0), QStringLiteral("1==1"));
+    QCOMPARE(solver->Box(0)->text(), QStringLiteral("1==1"));
+    QCOMPARE(solver->Solution(), QString());
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
