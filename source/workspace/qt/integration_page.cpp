@@ -332,6 +332,10 @@ void IntegrationPage::ParameterChosen(int axis, int index) {
 void IntegrationPage::ClearAnswer() {
     if (!guard.idle()) return;
     if (!filling) document.MarkSettingsChanged();
+    ForgetAnswer();
+}
+
+void IntegrationPage::ForgetAnswer() {
     hasSolution = false;
     answerEdit->clear();
     insertButton->setEnabled(false);
@@ -376,7 +380,8 @@ void IntegrationPage::ShowRunning(bool running, int type) {
 
 void IntegrationPage::Compute() {
     if (!guard.begin()) return;
-    ClearAnswer();
+    // A new run begins with an empty answer.
+    ForgetAnswer();
     const calculus::IntegrationSettings settings = ReadBoxes();
     StoreSettings();
     host.Begin();

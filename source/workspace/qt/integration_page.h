@@ -53,7 +53,9 @@ private:
     void ShowParameterBoxes(const calculus::ParameterBoxes &boxes);
     void TypeChosen(int type);
     void ParameterChosen(int axis, int index);
+    // An edit of the page: the answer no longer belongs to the boxes.
     void ClearAnswer();
+    void ForgetAnswer();
     void WriteSolution();
     void PrecisionChanged(int value);
     void SelectField(calculus::Field field);
