@@ -22,6 +22,7 @@
 #include <vector>
 
 #include "app_setting_keys.h"
+#include "calculus_format.h"
 #include "calculus_messages.h"
 #include "calculus_page_parts.h"
 #include "calculus_run_host.h"
@@ -400,7 +401,24 @@ void FunctionSolverDialog::Solve() {
     SolveFunction(answer);
 }
 
+bool FunctionSolverDialog::GraphFunctionsShowing() const {
+    return functionsPageShowing && functionsPageShowing();
+}
+
 void FunctionSolverDialog::InsertFunction() {
+    if (GraphFunctionsShowing()) {
+        // Only functions of one or two parameters can be graphed.
+        if (calculus::PrototypeParameterCount(prototype.toStdString()) < 3) {
+            if (addGraphFunction) addGraphFunction(prototype);
+        } else {
+            workbench.Messages().ShowPlain(
+                this,
+                QString::fromStdString(calculus::Format(
+                    calculus::message(calculus::kTooManyToGraph), prototype.toStdString())),
+                CalculusText(calculus::kSolverTitle), kBoxWarning);
+        }
+        return;
+    }
     QString answer;
     if (!SolveFunction(answer)) return;
     std::string call = form.build_expression();
@@ -413,6 +431,14 @@ void FunctionSolverDialog::InsertFunction() {
 void FunctionSolverDialog::InsertAnswer() {
     QString answer;
     if (!SolveFunction(answer)) return;
+    if (GraphFunctionsShowing()) {
+        workbench.Messages().ShowPlain(
+            this,
+            QString::fromStdString(calculus::Format(
+                calculus::message(calculus::kAnswerNotGraphable), form.build_expression())),
+            CalculusText(calculus::kSolverTitle), kBoxWarning);
+        return;
+    }
     document.TextPane().Buffer().ReplaceSelection(answer.toStdString());
 }
 

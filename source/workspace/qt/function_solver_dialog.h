@@ -10,6 +10,7 @@
 #include <QDialog>
 #include <QLineEdit>
 #include <array>
+#include <functional>
 
 #include "solver_form.h"
 
@@ -59,6 +60,11 @@ public:
     QString Solution() const;
     QPushButton *InsertFunctionButton() const { return insertFunctionButton; }
     QPushButton *InsertAnswerButton() const { return insertAnswerButton; }
+    // Graph Setup's Functions page, once there is one: whether it shows, and a function added
+    // to its list. While it shows, "Insert F[x]" and "Insert Ans." go there instead of the text.
+    std::function<bool()> functionsPageShowing;
+    std::function<void(const QString &prototype)> addGraphFunction;
+
     QRadioButton *FormButton(int form) const { return formButtons[static_cast<std::size_t>(form)]; }
 
     // Store the box with the focus and solve: the "=" key.
@@ -89,6 +95,7 @@ private:
     void ShowFailure(const calculus::SolverFailure &failure);
     void FormChosen(int chosen);
     int FocusedBox() const;
+    bool GraphFunctionsShowing() const;
     void PlaceBeside();
 
     Workbench &workbench;

@@ -101,6 +101,7 @@ private slots:
     void solverSwitchesBetweenTheTwoForms();
     void solverRefusesSevenParameters();
     void precisionsAreKeptInTheSettings();
+    void insertGoesToGraphSetupWhileItsFunctionsShow();
     void equalsKeyIsTypedIntoLogicalExpressions();
     void screenshots();
 };
@@ -577,6 +578,36 @@ void CalculusWindows::equalsKeyIsTypedIntoLogicalExpressions() {
     QTest::keyClicks(solver->Box(0), QStringLiteral("1==1"));
     QCOMPARE(solver->Box(0)->text(), QStringLiteral("1==1"));
     QCOMPARE(solver->Solution(), QString());
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void CalculusWindows::insertGoesToGraphSetupWhileItsFunctionsShow() {
+    DesktopHarness harness;
+    DocumentWindow &document = *harness.Current();
+    TypeText(&document.TextPane(), QStringLiteral("g[a,b] = a*b\n"));
+    document.TextPane().clear();
+    FunctionSolverDialog *solver =
+        OpenFunctionSolver(harness.Bench(), document, QStringLiteral("g[a,b]"), {});
+    QStringList added;
+    solver->functionsPageShowing = [] { return true; };
+    solver->addGraphFunction = [&](const QString &prototype) { added << prototype; };
+    solver->InsertFunctionButton()->click();
+    QCOMPARE(added, QStringList{"g[a,b]"});
+    QApplication::setActiveWindow(solver);
+    solver->Box(0)->setFocus();
+    QTest::keyClicks(solver->Box(0), QStringLiteral("2"));
+    QTest::keyClick(solver->Box(0), Qt::Key_Return);
+    QTest::keyClicks(solver->Box(1), QStringLiteral("7"));
+    QTest::keyClick(solver->Box(1), Qt::Key_Return);
+    harness.boxes.Expect(QStringLiteral("The Solution To Function \"g[2,7]\" Can Not Be Inserted"),
+                         kIdOk);
+    solver->InsertAnswerButton()->click();
+    QCOMPARE(solver->Solution(), QStringLiteral(" 14"));
+    QCOMPARE(document.TextPane().toPlainText(), QString());
+    solver->ConfigureDialog(QStringLiteral("IF[logicalExp,valueIfTrue,valueIfFalse]"), {});
+    harness.boxes.Expect(QStringLiteral("Has Too Many Parameters To Be Graphed."), kIdOk);
+    solver->InsertFunctionButton()->click();
+    QCOMPARE(added.size(), 1);
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
