@@ -42,6 +42,8 @@ public:
 
     DocumentChanges Changes() const;
     bool IsDirty() const { return document_dirty(Changes()); }
+    // A tool window changed the settings the document keeps (the calculus pages' boxes).
+    void MarkSettingsChanged() { settingsChanged = true; }
     // What the document is busy with; nothing computes yet, so this stays idle until the
     // graph and calculus windows report through it.
     std::function<DocumentActivity()> activity;

@@ -13,6 +13,7 @@
 #include <QKeyEvent>
 #include <QProcess>
 
+#include "calculus_tools.h"
 #include "command_table.h"
 #include "document_area.h"
 #include "document_close_rules.h"
@@ -101,6 +102,7 @@ Workbench::Workbench(AppServices &appServices, DesktopFolders desktopFolders)
         const TColor color = settings.CustomColor(n);
         QColorDialog::setCustomColor(n - 1, QColor(color.Red(), color.Green(), color.Blue()));
     }
+    InstallCalculusTools(*this);
 }
 
 Workbench::~Workbench() {
