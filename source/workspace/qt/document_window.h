@@ -42,6 +42,11 @@ public:
 
     DocumentChanges Changes() const;
     bool IsDirty() const { return document_dirty(Changes()); }
+    // The Options sheet changed the document's settings: it asks to be saved.
+    void MarkSettingsChanged() {
+        settingsChanged = true;
+        emit stateChanged();
+    }
     // What the document is busy with; nothing computes yet, so this stays idle until the
     // graph and calculus windows report through it.
     std::function<DocumentActivity()> activity;

@@ -12,6 +12,7 @@
 #include <QKeyEvent>
 #include <QProcess>
 
+#include "client_tools.h"
 #include "command_table.h"
 #include "document_area.h"
 #include "document_close_rules.h"
@@ -83,6 +84,7 @@ Workbench::Workbench(AppServices &appServices, DesktopFolders desktopFolders)
     });
 
     create_user_library(folders.userLibraryDir);
+    install_client_tools(*this);
     const AppSettings settings = Settings();
     soundOn = settings.Sound();
     showIncrementals = settings.IncrementalVariables();

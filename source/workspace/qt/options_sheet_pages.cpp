@@ -1,0 +1,376 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Quindar developers
+#include "options_sheet_pages.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QDir>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStandardPaths>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "default_application.h"
+#include "document_area.h"
+#include "document_window.h"
+#include "options_sheet.h"
+#include "parser.h"
+#include "workbench.h"
+
+namespace quindar {
+namespace {
+
+QString FromBytes(std::string_view text) {
+    return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+template <typename Control>
+Control *Named(Control *control, const QString &name) {
+    control->setAccessibleName(name);
+    return control;
+}
+
+QRadioButton *Radio(const char *text, QWidget *parent) {
+    return Named(new QRadioButton(QString::fromLatin1(text), parent), QString::fromLatin1(text));
+}
+
+QCheckBox *Check(const char *text, QWidget *parent) {
+    return Named(new QCheckBox(QString::fromLatin1(text), parent), QString::fromLatin1(text));
+}
+
+QPushButton *Button(const char *text, QWidget *parent) {
+    auto *button =
+        Named(new QPushButton(QString::fromLatin1(text), parent), QString::fromLatin1(text));
+    // Enter belongs to the sheet's OK.
+    button->setAutoDefault(false);
+    return button;
+}
+
+// The pair of radios "Apply To File In Focus" and "Apply To All Files" in a row.
+QGroupBox *ApplyTargetGroup(QWidget *parent, QRadioButton *&toFile, QRadioButton *&toAll) {
+    auto *group = Named(new QGroupBox(parent), QStringLiteral("Apply To"));
+    toFile = Radio("Apply To File In Focus", group);
+    toAll = Radio("Apply To All Files", group);
+    auto *row = new QHBoxLayout(group);
+    row->addWidget(toFile);
+    row->addWidget(toAll);
+    return group;
+}
+
+QGroupBox *Group(const char *title, QWidget *parent) {
+    return Named(new QGroupBox(QString::fromLatin1(title), parent), QString::fromLatin1(title));
+}
+
+int Ask(OptionsSheet &sheet, QWidget *parent, int questionId) {
+    return sheet.Bench().Messages().ShowPlain(parent, FromBytes(OptionsMessageText(questionId)),
+                                              FromBytes(OptionsMessageText(kPrecisionFormatTitle)),
+                                              kBoxQuestionYesNo);
+}
+
+}  // namespace
+
+// ---------------------------------------------------------------- Precision/Format
+
+PrecisionFormatTab::PrecisionFormatTab(OptionsSheet &owner)
+    : sheet(owner),
+      page(owner.Documents()[0]->Engine(), owner.Options().applyPrecisionToAll,
+           PrecisionFormatPage::kMathEditor) {
+    setAccessibleName(QStringLiteral("Precision/Format"));
+    QGroupBox *target = ApplyTargetGroup(this, applyToFile, applyToAll);
+
+    auto *precisionGroup = Group("Precision", this);
+    precision = Named(new QLineEdit(precisionGroup), QStringLiteral("Precision"));
+    precision->setEnabled(false);
+    precision->setMaximumWidth(60);
+    higher = Button("Higher", precisionGroup);
+    lower = Button("Lower", precisionGroup);
+    auto *precisionRow = new QHBoxLayout(precisionGroup);
+    precisionRow->addWidget(precision);
+    precisionRow->addWidget(higher);
+    precisionRow->addWidget(lower);
+    precisionRow->addStretch(1);
+
+    auto *formatGroup = Group("Format", this);
+    decimal = Radio("Decimal", formatGroup);
+    scientific = Radio("Scientific Notation", formatGroup);
+    showPoint = Check("Show Decimal Point", formatGroup);
+    leadSign = Check("Show Leading Sign", formatGroup);
+    auto *formatGrid = new QGridLayout(formatGroup);
+    formatGrid->addWidget(decimal, 0, 0);
+    formatGrid->addWidget(scientific, 1, 0);
+    formatGrid->addWidget(showPoint, 0, 1);
+    formatGrid->addWidget(leadSign, 1, 1);
+
+    auto *zeroGroup = Group("Round Values Smaller Than", this);
+    zeroPrecision = Named(new QLineEdit(zeroGroup), QStringLiteral("Round Values Smaller Than"));
+    zeroPrecision->setEnabled(false);
+    zeroPrecision->setMaximumWidth(90);
+    zeroUp = Named(new QToolButton(zeroGroup), QStringLiteral("Smaller threshold"));
+    zeroUp->setArrowType(Qt::UpArrow);
+    zeroDown = Named(new QToolButton(zeroGroup), QStringLiteral("Larger threshold"));
+    zeroDown->setArrowType(Qt::DownArrow);
+    auto *arrows = new QVBoxLayout;
+    arrows->setSpacing(0);
+    arrows->addWidget(zeroUp);
+    arrows->addWidget(zeroDown);
+    auto *zeroRow = new QHBoxLayout(zeroGroup);
+    zeroRow->addWidget(zeroPrecision);
+    zeroRow->addLayout(arrows);
+    zeroRow->addWidget(
+        Named(new QLabel(QStringLiteral(" To 0.0"), zeroGroup), QStringLiteral("To 0.0")));
+    zeroRow->addStretch(1);
+
+    auto *windowGroup = Group("Window", this);
+    mathEditor = Radio("Math Editor", windowGroup);
+    variables = Radio("Variables", windowGroup);
+    auto *windowRow = new QHBoxLayout(windowGroup);
+    windowRow->addWidget(mathEditor);
+    windowRow->addWidget(variables);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(target);
+    layout->addWidget(windowGroup);
+    layout->addWidget(precisionGroup);
+    layout->addWidget(formatGroup);
+    layout->addWidget(zeroGroup);
+    layout->addStretch(1);
+
+    (page.ApplyToAll() ? applyToAll : applyToFile)->setChecked(true);
+    LoadControls();
+
+    connect(higher, &QPushButton::clicked, this, [this] { StepPrecision(true); });
+    connect(lower, &QPushButton::clicked, this, [this] { StepPrecision(false); });
+    connect(zeroUp, &QToolButton::clicked, this, [this] { StepZero(true); });
+    connect(zeroDown, &QToolButton::clicked, this, [this] { StepZero(false); });
+    connect(decimal, &QRadioButton::clicked, this, [this] {
+        page.SetScientific(false);
+        Changed();
+    });
+    connect(scientific, &QRadioButton::clicked, this, [this] {
+        page.SetScientific(true);
+        Changed();
+    });
+    connect(showPoint, &QCheckBox::clicked, this, [this](bool on) {
+        page.SetShowPoint(on);
+        Changed();
+    });
+    connect(leadSign, &QCheckBox::clicked, this, [this](bool on) {
+        page.SetLeadSign(on);
+        Changed();
+    });
+    connect(mathEditor, &QRadioButton::clicked, this,
+            [this] { ShowRecord(PrecisionFormatPage::kMathEditor); });
+    connect(variables, &QRadioButton::clicked, this,
+            [this] { ShowRecord(PrecisionFormatPage::kVariables); });
+    connect(applyToFile, &QRadioButton::clicked, this, [this] { ChooseTarget(false); });
+    connect(applyToAll, &QRadioButton::clicked, this, [this] { ChooseTarget(true); });
+}
+
+void PrecisionFormatTab::LoadControls() {
+    const PrecformType &shown = page.Shown();
+    (page.ShownWindow() == PrecisionFormatPage::kMathEditor ? mathEditor : variables)
+        ->setChecked(true);
+    precision->setText(QString::number(shown.precision));
+    (shown.format == kFormatScientific ? scientific : decimal)->setChecked(true);
+    showPoint->setChecked(shown.show_decimal_point);
+    leadSign->setChecked(shown.show_lead_sign);
+    zeroPrecision->setText(QString::fromStdString(ZeroPrecisionText(shown.zero_precision)));
+}
+
+void PrecisionFormatTab::Changed() {
+    sheet.PageChanged(OptionsSheetState::kPrecisionFormat);
+}
+
+void PrecisionFormatTab::StepPrecision(bool up) {
+    if (up ? page.Higher() : page.Lower()) Changed();
+    precision->setText(QString::number(page.Shown().precision));
+}
+
+void PrecisionFormatTab::StepZero(bool up) {
+    const ZeroPrecisionStep step = page.StepZero(zeroPrecision->text().toStdString(), up);
+    if (step.messageId != 0) {
+        sheet.Bench().Messages().ShowPlain(this, FromBytes(OptionsMessageText(step.messageId)),
+                                           FromBytes(OptionsMessageText(kPrecisionFormatTitle)),
+                                           kBoxWarning);
+        return;
+    }
+    zeroPrecision->setText(QString::fromStdString(step.text));
+    if (step.changed) Changed();
+}
+
+void PrecisionFormatTab::ShowRecord(int window) {
+    const int question = page.QuestionBeforeShowing(window);
+    if (question != 0 && Ask(sheet, this, question) == kIdYes) Apply();
+    page.ShowWindow(window);
+    LoadControls();
+}
+
+void PrecisionFormatTab::ChooseTarget(bool all) {
+    const int question = page.QuestionBeforeApplyTarget(all);
+    page.SetApplyToAll(all);
+    if (question != 0 && Ask(sheet, this, question) == kIdYes) Apply();
+}
+
+void PrecisionFormatTab::Apply() {
+    const AppSettings settings = sheet.Bench().Settings();
+    page.ApplyChanges(sheet.Documents(), sheet.Options(), &settings);
+    sheet.PageUnchanged(OptionsSheetState::kPrecisionFormat);
+}
+
+// ---------------------------------------------------------------- Mathematical
+
+MathOptionsTab::MathOptionsTab(OptionsSheet &owner)
+    : sheet(owner), page(owner.Documents()[0]->Engine(), owner.Options()) {
+    setAccessibleName(QStringLiteral("Mathematical"));
+    QGroupBox *target = ApplyTargetGroup(this, applyToFile, applyToAll);
+    auto *trigGroup = Group("Trigonometric", this);
+    degrees = Radio("Degrees", trigGroup);
+    radians = Radio("Radians", trigGroup);
+    auto *trigRow = new QHBoxLayout(trigGroup);
+    trigRow->addWidget(degrees);
+    trigRow->addWidget(radians);
+    auto *keysGroup = Group("Calculation Keys", this);
+    enterComputes = Radio("Use the Enter button or F4 to calculate", keysGroup);
+    shiftEnterComputes = Radio("Use Shift+Enter button or F4 to calculate", keysGroup);
+    auto *keysColumn = new QVBoxLayout(keysGroup);
+    keysColumn->addWidget(enterComputes);
+    keysColumn->addWidget(shiftEnterComputes);
+    auto *bracketsGroup = Group("Function Delimiters", this);
+    squareBrackets = Check("Use square brackets [ ] for function delimiters", bracketsGroup);
+    (new QVBoxLayout(bracketsGroup))->addWidget(squareBrackets);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(target);
+    layout->addWidget(trigGroup);
+    layout->addWidget(keysGroup);
+    layout->addWidget(bracketsGroup);
+    layout->addStretch(1);
+
+    const SheetOptions &options = owner.Options();
+    (options.applyTrigToAll ? applyToAll : applyToFile)->setChecked(true);
+    (page.AngleMode() == 0 ? degrees : radians)->setChecked(true);
+    (options.calculationMethod ? enterComputes : shiftEnterComputes)->setChecked(true);
+    squareBrackets->setChecked(options.useSquareBrackets);
+
+    const auto changed = [this] { sheet.PageChanged(OptionsSheetState::kMathematical); };
+    connect(applyToFile, &QRadioButton::clicked, this, [this, changed] {
+        page.SetApplyToAll(false);
+        changed();
+    });
+    connect(applyToAll, &QRadioButton::clicked, this, [this, changed] {
+        page.SetApplyToAll(true);
+        changed();
+    });
+    connect(degrees, &QRadioButton::clicked, this, [this, changed] {
+        page.SetAngleMode(0);
+        changed();
+    });
+    connect(radians, &QRadioButton::clicked, this, [this, changed] {
+        page.SetAngleMode(1);
+        changed();
+    });
+    connect(enterComputes, &QRadioButton::clicked, this, [this, changed] {
+        page.SetCalculationMethod(true);
+        changed();
+    });
+    connect(shiftEnterComputes, &QRadioButton::clicked, this, [this, changed] {
+        page.SetCalculationMethod(false);
+        changed();
+    });
+    connect(squareBrackets, &QCheckBox::clicked, this, [this, changed](bool on) {
+        page.SetUseSquareBrackets(on);
+        changed();
+    });
+}
+
+void MathOptionsTab::Apply() {
+    const AppSettings settings = sheet.Bench().Settings();
+    page.ApplyChanges(sheet.Documents(), sheet.Options(), &settings);
+    sheet.PageUnchanged(OptionsSheetState::kMathematical);
+}
+
+// ---------------------------------------------------------------- Media Player
+
+MediaPlayerTab::MediaPlayerTab(OptionsSheet &owner) : sheet(owner) {
+    setAccessibleName(QStringLiteral("Media Player"));
+    auto *pathGroup = Group("Executable File Path", this);
+    path = Named(new QLineEdit(pathGroup), QStringLiteral("Executable File Path"));
+    path->setReadOnly(true);
+    find = Named(new QPushButton(QStringLiteral("..."), pathGroup),
+                 QStringLiteral("Find media player"));
+    find->setAutoDefault(false);
+    auto *pathRow = new QHBoxLayout(pathGroup);
+    pathRow->addWidget(path, 1);
+    pathRow->addWidget(find);
+    useDefault = Check("Use system default media player to play tutorials", this);
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(pathGroup);
+    layout->addWidget(useDefault);
+    layout->addStretch(1);
+
+    Workbench &bench = owner.Bench();
+    page.Ask = [this, &bench](int id) {
+        return bench.Messages().ShowPlain(
+                   this, FromBytes(FindNumberedText(kMediaPlayerMessages, id)),
+                   FromBytes(FindNumberedText(kMediaPlayerMessages, kMediaPlayerTitle)),
+                   kBoxQuestionYesNo) == kIdYes;
+    };
+    page.Tell = [this, &bench](int id) {
+        bench.Messages().ShowPlain(
+            this, FromBytes(FindNumberedText(kMediaPlayerMessages, id)),
+            FromBytes(FindNumberedText(kMediaPlayerMessages, kMediaPlayerTitle)), kBoxWarning);
+    };
+    page.ChoosePlayer = [this, &bench]() -> std::optional<std::string> {
+        const QStringList chosen = bench.chooseOpenFiles(
+            this, QStringLiteral("Media Player Executable"), QStringLiteral("/usr/bin"),
+            QStringLiteral("Executable Files(*)"));
+        if (chosen.isEmpty()) return std::nullopt;
+        return chosen.front().toStdString();
+    };
+
+    const std::string stored = bench.Settings().MediaPlayerPath();
+    std::string fallback;
+    for (const char *player : {"vlc", "mpv", "totem", "celluloid", "dragon", "smplayer"}) {
+        fallback = QStandardPaths::findExecutable(QString::fromLatin1(player)).toStdString();
+        if (!fallback.empty()) break;
+    }
+    page.Setup(stored.empty() ? std::nullopt : std::optional<std::string>(stored), SystemPlayer(),
+               fallback);
+    Refresh();
+
+    connect(find, &QPushButton::clicked, this, [this] {
+        if (page.FindMediaPlayer()) sheet.PageChanged(OptionsSheetState::kMediaPlayer);
+        Refresh();
+    });
+    connect(useDefault, &QCheckBox::clicked, this, [this](bool on) {
+        page.ClickUseDefault(on, SystemPlayer());
+        if (page.Changed()) sheet.PageChanged(OptionsSheetState::kMediaPlayer);
+        Refresh();
+    });
+}
+
+// The player the desktop names for the tutorials' files; empty without a tutorial to ask for.
+std::string MediaPlayerTab::SystemPlayer() const {
+    const QDir tutorials(QString::fromStdString(sheet.Bench().Folders().tutorialsDir));
+    if (tutorials.entryList({QStringLiteral("*.wmv")}, QDir::Files).isEmpty()) return {};
+    return default_application_for(QStringLiteral("video/x-ms-wmv")).program.toStdString();
+}
+
+void MediaPlayerTab::Refresh() {
+    path->setText(QString::fromStdString(page.EditText()));
+    useDefault->setChecked(page.UseDefault());
+}
+
+void MediaPlayerTab::Apply() {
+    page.Apply(sheet.Bench().Settings());
+    sheet.PageUnchanged(OptionsSheetState::kMediaPlayer);
+}
+
+}  // namespace quindar

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Quindar developers
+#pragma once
+
+// What the program prints: the text of a Math Editor, paged by TextPaginator, and the rows of
+// a list, paged by ListPageCount. A printout is laid out once for its device, so that any
+// page can be drawn again, by the printer or by the preview.
+
+#include <QFont>
+#include <QString>
+#include <QStringList>
+#include <string>
+#include <vector>
+
+#include "text_paginator.h"
+
+class QPaintDevice;
+class QPainter;
+class QPrinter;
+
+namespace quindar {
+
+class Printout {
+public:
+    virtual ~Printout() = default;
+    // Lays the pages out for the device's printable area.
+    virtual void Prepare(QPaintDevice &device) = 0;
+    // The pages that come out.
+    virtual int PageCount() const = 0;
+    // The count the print dialog offers (for the text an estimate that ignores wrapping).
+    virtual int OfferedPageCount() const { return PageCount(); }
+    // Draws a page (from 1) in the device's coordinates of the printable area.
+    virtual void DrawPage(QPainter &painter, int page) const = 0;
+};
+
+// The screen font of a pane at the same physical size on the device, sized in device pixels.
+QFont font_for_device(const QFont &screenFont, const QPaintDevice &device);
+
+class TextPrintout : public Printout {
+public:
+    // text with CR LF line ends, as the editor's document text gives it.
+    TextPrintout(std::string text, QString header, QFont screenFont);
+
+    void Prepare(QPaintDevice &device) override;
+    int PageCount() const override { return static_cast<int>(pages.size()); }
+    int OfferedPageCount() const override { return offered; }
+    void DrawPage(QPainter &painter, int page) const override;
+
+private:
+    std::string text;
+    QString header;
+    QFont screenFont;
+    QFont font;
+    int lineHeight = 1;
+    int ascent = 0;
+    int offered = 0;
+    std::vector<printing::PrintedPage> pages;
+};
+
+class ListPrintout : public Printout {
+public:
+    ListPrintout(QStringList rows, QFont screenFont);
+
+    void Prepare(QPaintDevice &device) override;
+    int PageCount() const override { return pageCount; }
+    void DrawPage(QPainter &painter, int page) const override;
+
+private:
+    QStringList rows;
+    QFont screenFont;
+    QFont font;
+    int lineHeight = 1;
+    int ascent = 0;
+    int rowsPerPage = 0;
+    int pageCount = 0;
+};
+
+// Prints the printout's pages in the printer's range (all when it names none). False with
+// the reason when the job could not start or a page could not be added.
+bool run_printout(Printout &printout, QPrinter &printer, QString &error);
+
+}  // namespace quindar
