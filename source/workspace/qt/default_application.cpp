@@ -4,7 +4,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QStandardPaths>
 #include <QTextStream>
 
@@ -40,18 +39,50 @@ QString FindDesktopEntry(const QString &name) {
     return QStandardPaths::locate(QStandardPaths::ApplicationsLocation, name);
 }
 
-QString AskXdgMime(const QString &mimeType) {
-    const QString tool = QStandardPaths::findExecutable(QStringLiteral("xdg-mime"));
-    if (tool.isEmpty()) return {};
-    QProcess query;
-    query.start(tool, {QStringLiteral("query"), QStringLiteral("default"), mimeType});
-    // The query reads a few small files; a desktop that does not answer soon names none.
-    if (!query.waitForFinished(3000)) {
-        query.kill();
-        query.waitForFinished(1000);
-        return {};
+// The desktop entries a MIME list file names for the type in one of its sections.
+QStringList EntriesIn(const QString &path, const QString &section, const QString &mimeType) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) return {};
+    bool inSection = false;
+    const QString key = mimeType + QLatin1Char('=');
+    const QStringList lines = QTextStream(&file).readAll().split(QLatin1Char('\n'));
+    for (const QString &raw : lines) {
+        const QString line = raw.trimmed();
+        if (line.startsWith(QLatin1Char('['))) {
+            inSection = line == section;
+            continue;
+        }
+        if (inSection && line.startsWith(key))
+            return line.mid(key.size()).split(QLatin1Char(';'), Qt::SkipEmptyParts);
     }
-    return QString::fromLocal8Bit(query.readAllStandardOutput()).trimmed();
+    return {};
+}
+
+// The XDG MIME association files in their order of precedence: the user's and the system's
+// mimeapps.list, then the installed programs' mimeinfo.cache.
+QString AskMimeDatabase(const QString &mimeType) {
+    QStringList lists;
+    const QStringList desktops = qEnvironmentVariable("XDG_CURRENT_DESKTOP")
+                                     .toLower()
+                                     .split(QLatin1Char(':'), Qt::SkipEmptyParts);
+    for (const QString &folder :
+         QStandardPaths::standardLocations(QStandardPaths::GenericConfigLocation)) {
+        for (const QString &desktop : desktops)
+            lists << folder + QLatin1Char('/') + desktop + QStringLiteral("-mimeapps.list");
+        lists << folder + QStringLiteral("/mimeapps.list");
+    }
+    const QStringList applications =
+        QStandardPaths::standardLocations(QStandardPaths::ApplicationsLocation);
+    for (const QString &folder : applications) lists << folder + QStringLiteral("/mimeapps.list");
+    for (const QString &list : lists)
+        for (const QString &entry :
+             EntriesIn(list, QStringLiteral("[Default Applications]"), mimeType))
+            if (!FindDesktopEntry(entry).isEmpty()) return entry;
+    for (const QString &folder : applications)
+        for (const QString &entry : EntriesIn(folder + QStringLiteral("/mimeinfo.cache"),
+                                              QStringLiteral("[MIME Cache]"), mimeType))
+            if (!FindDesktopEntry(entry).isEmpty()) return entry;
+    return {};
 }
 
 }  // namespace
@@ -84,7 +115,7 @@ DefaultApplication parse_desktop_exec(const QString &desktopEntryText) {
 }
 
 DefaultApplication default_application_for(const QString &mimeType) {
-    const QString entryName = AskXdgMime(mimeType);
+    const QString entryName = AskMimeDatabase(mimeType);
     if (entryName.isEmpty()) return {};
     QFile entry(FindDesktopEntry(entryName));
     if (!entry.open(QIODevice::ReadOnly | QIODevice::Text)) return {};

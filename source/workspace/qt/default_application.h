@@ -3,8 +3,8 @@
 #pragma once
 
 // The desktop's default program for a kind of file, as the XDG MIME database names it: the
-// desktop entry of "xdg-mime query default", found in the XDG data folders, and its Exec line
-// without the field codes.
+// first desktop entry that the mimeapps.list files (or failing them the mimeinfo.cache files)
+// give for the type, found in the XDG data folders, and its Exec line without field codes.
 
 #include <QString>
 #include <QStringList>
