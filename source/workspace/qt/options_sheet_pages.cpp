@@ -2,6 +2,8 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 #include "options_sheet_pages.h"
 
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QDir>
@@ -16,6 +18,7 @@
 #include <QStandardPaths>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "default_application.h"
 #include "document_area.h"
@@ -68,6 +71,15 @@ QGroupBox *Group(const char *title, QWidget *parent) {
     return Named(new QGroupBox(QString::fromLatin1(title), parent), QString::fromLatin1(title));
 }
 
+// The record the page opens on: the variables' when the sheet was called from the Variables
+// list, the editor's otherwise.
+int OpeningWindow() {
+    const QWidget *focus = QApplication::focusWidget();
+    const bool fromVariables = qobject_cast<const QAbstractItemView *>(focus) != nullptr &&
+                               focus->accessibleName().contains(QStringLiteral("Variables"));
+    return fromVariables ? PrecisionFormatPage::kVariables : PrecisionFormatPage::kMathEditor;
+}
+
 int Ask(OptionsSheet &sheet, QWidget *parent, int questionId) {
     return sheet.Bench().Messages().ShowPlain(parent, FromBytes(OptionsMessageText(questionId)),
                                               FromBytes(OptionsMessageText(kPrecisionFormatTitle)),
@@ -80,8 +92,7 @@ int Ask(OptionsSheet &sheet, QWidget *parent, int questionId) {
 
 PrecisionFormatTab::PrecisionFormatTab(OptionsSheet &owner)
     : sheet(owner),
-      page(owner.Documents()[0]->Engine(), owner.Options().applyPrecisionToAll,
-           PrecisionFormatPage::kMathEditor) {
+      page(owner.Documents()[0]->Engine(), owner.Options().applyPrecisionToAll, OpeningWindow()) {
     setAccessibleName(QStringLiteral("Precision/Format"));
     QGroupBox *target = ApplyTargetGroup(this, applyToFile, applyToAll);
 
@@ -259,34 +270,21 @@ MathOptionsTab::MathOptionsTab(OptionsSheet &owner)
     (options.calculationMethod ? enterComputes : shiftEnterComputes)->setChecked(true);
     squareBrackets->setChecked(options.useSquareBrackets);
 
-    const auto changed = [this] { sheet.PageChanged(OptionsSheetState::kMathematical); };
-    connect(applyToFile, &QRadioButton::clicked, this, [this, changed] {
-        page.SetApplyToAll(false);
-        changed();
-    });
-    connect(applyToAll, &QRadioButton::clicked, this, [this, changed] {
-        page.SetApplyToAll(true);
-        changed();
-    });
-    connect(degrees, &QRadioButton::clicked, this, [this, changed] {
-        page.SetAngleMode(0);
-        changed();
-    });
-    connect(radians, &QRadioButton::clicked, this, [this, changed] {
-        page.SetAngleMode(1);
-        changed();
-    });
-    connect(enterComputes, &QRadioButton::clicked, this, [this, changed] {
-        page.SetCalculationMethod(true);
-        changed();
-    });
-    connect(shiftEnterComputes, &QRadioButton::clicked, this, [this, changed] {
-        page.SetCalculationMethod(false);
-        changed();
-    });
-    connect(squareBrackets, &QCheckBox::clicked, this, [this, changed](bool on) {
-        page.SetUseSquareBrackets(on);
-        changed();
+    // Each control stores its state in the page, which then counts as changed.
+    using Store = void (MathOptionsPage::*)(bool);
+    const std::pair<QAbstractButton *, Store> controls[] = {
+        {applyToAll, &MathOptionsPage::SetApplyToAll},
+        {enterComputes, &MathOptionsPage::SetCalculationMethod},
+        {squareBrackets, &MathOptionsPage::SetUseSquareBrackets},
+    };
+    for (const auto &[control, store] : controls)
+        connect(control, &QAbstractButton::toggled, this, [this, store = store](bool on) {
+            (page.*store)(on);
+            sheet.PageChanged(OptionsSheetState::kMathematical);
+        });
+    connect(radians, &QAbstractButton::toggled, this, [this](bool on) {
+        page.SetAngleMode(on ? 1 : 0);
+        sheet.PageChanged(OptionsSheetState::kMathematical);
     });
 }
 

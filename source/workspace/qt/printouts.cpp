@@ -38,18 +38,27 @@ QFont font_for_device(const QFont &screenFont, const QPaintDevice &device) {
     return font;
 }
 
-TextPrintout::TextPrintout(std::string documentText, QString headerText, QFont screen)
-    : text(std::move(documentText)), header(std::move(headerText)), screenFont(std::move(screen)) {}
-
-void TextPrintout::Prepare(QPaintDevice &device) {
+void DeviceFont::MakeFor(const QFont &screenFont, QPaintDevice &device) {
     font = font_for_device(screenFont, device);
     const QFontMetrics metrics(font, &device);
     lineHeight = std::max(1, metrics.lineSpacing());
     ascent = metrics.ascent();
+}
+
+void DeviceFont::DrawRow(QPainter &painter, int row, const QString &text) const {
+    painter.drawText(0, row * lineHeight + ascent, text);
+}
+
+TextPrintout::TextPrintout(std::string documentText, QString headerText, QFont screen)
+    : text(std::move(documentText)), header(std::move(headerText)), screenFont(std::move(screen)) {}
+
+void TextPrintout::Prepare(QPaintDevice &device) {
+    deviceFont.MakeFor(screenFont, device);
+    const QFontMetrics metrics(deviceFont.font, &device);
     printing::PageMetrics page;
     page.pageWidth = device.width();
     page.pageHeight = device.height();
-    page.lineHeight = lineHeight;
+    page.lineHeight = deviceFont.lineHeight;
     printing::TextPaginator paginator(
         text, header.toStdString(), page, [metrics](std::string_view piece) {
             return metrics.horizontalAdvance(
@@ -62,32 +71,29 @@ void TextPrintout::Prepare(QPaintDevice &device) {
 void TextPrintout::DrawPage(QPainter &painter, int page) const {
     if (page < 1 || page > PageCount()) return;
     const printing::PrintedPage &printed = pages[static_cast<std::size_t>(page - 1)];
-    painter.setFont(font);
+    painter.setFont(deviceFont.font);
     painter.setPen(Qt::black);
-    if (printed.header) painter.drawText(0, printing::kHeaderRow * lineHeight + ascent, header);
+    if (printed.header) deviceFont.DrawRow(painter, printing::kHeaderRow, header);
     for (const printing::PrintedLine &line : printed.lines)
-        painter.drawText(0, line.row * lineHeight + ascent, FromUtf8(line.text));
+        deviceFont.DrawRow(painter, line.row, FromUtf8(line.text));
 }
 
 ListPrintout::ListPrintout(QStringList listRows, QFont screen)
     : rows(std::move(listRows)), screenFont(std::move(screen)) {}
 
 void ListPrintout::Prepare(QPaintDevice &device) {
-    font = font_for_device(screenFont, device);
-    const QFontMetrics metrics(font, &device);
-    lineHeight = std::max(1, metrics.lineSpacing());
-    ascent = metrics.ascent();
-    rowsPerPage = device.height() / lineHeight;
+    deviceFont.MakeFor(screenFont, device);
+    rowsPerPage = device.height() / deviceFont.lineHeight;
     pageCount = printing::ListPageCount(static_cast<int>(rows.size()), rowsPerPage);
 }
 
 void ListPrintout::DrawPage(QPainter &painter, int page) const {
     if (page < 1 || page > pageCount) return;
-    painter.setFont(font);
+    painter.setFont(deviceFont.font);
     painter.setPen(Qt::black);
     const int first = printing::ListPageFirstRow(page, rowsPerPage);
     for (int row = 0; row < rowsPerPage && first + row < rows.size(); ++row)
-        painter.drawText(0, row * lineHeight + ascent, rows[first + row]);
+        deviceFont.DrawRow(painter, row, rows[first + row]);
 }
 
 bool run_printout(Printout &printout, QPrinter &printer, QString &error) {

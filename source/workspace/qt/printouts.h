@@ -36,6 +36,16 @@ public:
 // The screen font of a pane at the same physical size on the device, sized in device pixels.
 QFont font_for_device(const QFont &screenFont, const QPaintDevice &device);
 
+// A pane's font made for a device, with the line height and ascent that place its rows.
+struct DeviceFont {
+    QFont font;
+    int lineHeight = 1;
+    int ascent = 0;
+    void MakeFor(const QFont &screenFont, QPaintDevice &device);
+    // Draws text on a row counted from 0 at the top of the printable area.
+    void DrawRow(QPainter &painter, int row, const QString &text) const;
+};
+
 class TextPrintout : public Printout {
 public:
     // text with CR LF line ends, as the editor's document text gives it.
@@ -50,9 +60,7 @@ private:
     std::string text;
     QString header;
     QFont screenFont;
-    QFont font;
-    int lineHeight = 1;
-    int ascent = 0;
+    DeviceFont deviceFont;
     int offered = 0;
     std::vector<printing::PrintedPage> pages;
 };
@@ -68,9 +76,7 @@ public:
 private:
     QStringList rows;
     QFont screenFont;
-    QFont font;
-    int lineHeight = 1;
-    int ascent = 0;
+    DeviceFont deviceFont;
     int rowsPerPage = 0;
     int pageCount = 0;
 };

@@ -87,6 +87,9 @@ private slots:
     void buttonsFollowTheName();
     void insertSelectsTheParameters_data();
     void insertSelectsTheParameters();
+    void graphSetupTakesOrRefuses_data();
+    void graphSetupTakesOrRefuses();
+    void noInsertIntoTheGraphView();
     void helpButtonsShowTheirTopics();
     void editStartsTheDesktopEditorWithoutWaiting();
     void editWithoutAnEditorOpensTheBuiltInWindow();
@@ -220,6 +223,55 @@ void FunctionLibraryWindow::insertSelectsTheParameters() {
     QCOMPARE(LineText(pane), line);
     QCOMPARE(pane.textCursor().selectedText(), selected);
     QVERIFY(pane.toPlainText().startsWith(QStringLiteral("1+1")));
+    QVERIFY(dialog.isVisible());
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void FunctionLibraryWindow::graphSetupTakesOrRefuses_data() {
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("one parameter") << "CIRCLEAREA"
+                                   << "";
+    QTest::newRow("two parameters") << "NTHROOT"
+                                    << "";
+    QTest::newRow("three parameters")
+        << "QUADROOT1"
+        << "Function \"QUADROOT1[a,b,c]\" Has Too Many Parameters To Be Graphed.";
+    QTest::newRow("constant") << "PI"
+                              << "The Constant \"PI\" Can Not Be Graphed, Please Choose A Function "
+                                 "From The Function Library.";
+}
+
+void FunctionLibraryWindow::graphSetupTakesOrRefuses() {
+    QFETCH(QString, name);
+    QFETCH(QString, message);
+    DesktopHarness harness;
+    FunctionLibraryDialog &dialog = OpenLibrary(harness);
+    QStringList graphed;
+    dialog.graphSetupOpen = [] { return true; };
+    dialog.addToGraphSetup = [&](const QString &text) { graphed << text; };
+    QTest::keyClicks(Named<QLineEdit>(dialog, QStringLiteral("Search")), name);
+    if (!message.isEmpty()) harness.boxes.Expect(message, kIdOk);
+    QTest::mouseClick(Button(dialog, QStringLiteral("Insert F[x]")), Qt::LeftButton);
+    QCoreApplication::processEvents();
+    // Graph Setup takes the function and the dialog closes; a refusal keeps it open.
+    QCOMPARE(graphed.isEmpty(), !message.isEmpty());
+    QCOMPARE(client_tools_of(harness.Bench())->FunctionLibrary() != nullptr &&
+                 client_tools_of(harness.Bench())->FunctionLibrary()->isVisible(),
+             !message.isEmpty());
+    QCOMPARE(harness.Current()->TextPane().toPlainText(), QString());
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void FunctionLibraryWindow::noInsertIntoTheGraphView() {
+    DesktopHarness harness;
+    FunctionLibraryDialog &dialog = OpenLibrary(harness);
+    dialog.graphViewShowing = [] { return true; };
+    harness.boxes.Expect(
+        QStringLiteral("A Function Can Not Be Inserted Into The \"Graph Window\" Directly."),
+        kIdOk);
+    QTest::mouseClick(Button(dialog, QStringLiteral("Insert F[x]")), Qt::LeftButton);
+    QCOMPARE(harness.Current()->TextPane().toPlainText(), QString());
     QVERIFY(dialog.isVisible());
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }

@@ -5,16 +5,20 @@
 // of a view switch, and what reaches the documents and the options file.
 #include <QCheckBox>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFile>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QToolButton>
 
 #include "client_tools.h"
 #include "command_table.h"
+#include "desktop_folders.h"
 #include "desktop_harness.h"
 #include "document_area.h"
 #include "document_window.h"
@@ -56,6 +60,8 @@ private slots:
     void applyFollowsTheChanges();
     void leavingAChangedViewAsksAboutIt();
     void angleGoesToOneDocumentBracketsToAll();
+    void fromTheVariablesListTheVariablesShow();
+    void mediaPlayerFromTheDesktopDefault();
 };
 
 void OptionsSheetWindow::commandRunsTheModalSheet() {
@@ -201,6 +207,56 @@ void OptionsSheetWindow::angleGoesToOneDocumentBracketsToAll() {
     const QString ini = IniText(harness);
     QVERIFY(ini.contains(QStringLiteral("ApplyTrigOptionsToAll=0")));
     QVERIFY(ini.contains(QStringLiteral("UseSquareFunctionBrackets=1")));
+}
+
+void OptionsSheetWindow::fromTheVariablesListTheVariablesShow() {
+    DesktopHarness harness;
+    auto *list = new QListWidget(harness.Current());
+    list->setAccessibleName(QStringLiteral("Variables List"));
+    list->show();
+    QApplication::setActiveWindow(&harness.Frame());
+    list->setFocus();
+    harness.Current()->Engine().variable_format->precision = 3;
+    OptionsSheet sheet(harness.Bench(), &harness.Frame());
+    QVERIFY(sheet.PrecisionPage()->variables->isChecked());
+    QCOMPARE(sheet.PrecisionPage()->precision->text(), QStringLiteral("3"));
+}
+
+void OptionsSheetWindow::mediaPlayerFromTheDesktopDefault() {
+    QTemporaryDir desktop;
+    const QString applications = desktop.path() + QStringLiteral("/data/applications");
+    QDir().mkpath(applications);
+    QDir().mkpath(desktop.path() + QStringLiteral("/tutorials"));
+    QFile(desktop.path() + QStringLiteral("/tutorials/Intro.wmv")).open(QIODevice::WriteOnly);
+    QFile entry(applications + QStringLiteral("/player.desktop"));
+    QVERIFY(entry.open(QIODevice::WriteOnly));
+    entry.write("[Desktop Entry]\nType=Application\nName=Player\nExec=/bin/true %U\n");
+    entry.close();
+    QFile cache(applications + QStringLiteral("/mimeinfo.cache"));
+    QVERIFY(cache.open(QIODevice::WriteOnly));
+    cache.write("[MIME Cache]\nvideo/x-ms-wmv=player.desktop;\n");
+    cache.close();
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(desktop.path() + QStringLiteral("/none")));
+    qputenv("XDG_CONFIG_DIRS", QFile::encodeName(desktop.path() + QStringLiteral("/none")));
+    qputenv("XDG_DATA_HOME", QFile::encodeName(desktop.path() + QStringLiteral("/data")));
+    qputenv("XDG_DATA_DIRS", QFile::encodeName(desktop.path() + QStringLiteral("/none")));
+    DesktopHarness harness({}, [&](DesktopFolders &folders) {
+        folders.tutorialsDir = (desktop.path() + QStringLiteral("/tutorials/")).toStdString();
+    });
+    OptionsSheet sheet(harness.Bench(), &harness.Frame());
+    sheet.Tabs().setCurrentIndex(2);
+    MediaPlayerTab &page = *sheet.MediaPage();
+    QCOMPARE(page.path->text(), QStringLiteral("/bin/true"));
+    QVERIFY(page.useDefault->isChecked());
+    // Clearing the box asks first; No keeps the system's player.
+    harness.boxes.Expect(
+        QStringLiteral("Continuing will change the current media player, do you want to procede?"),
+        kIdNo);
+    Click(page.useDefault);
+    QVERIFY(page.useDefault->isChecked());
+    Click(sheet.Buttons().button(QDialogButtonBox::Ok));
+    QVERIFY(IniText(harness).contains(QStringLiteral("MediaPlayerPath=/bin/true")));
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
 QTEST_MAIN(OptionsSheetWindow)
