@@ -11,6 +11,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QProgressDialog>
 
 #include "document_area.h"
 #include "document_window.h"
@@ -111,7 +112,25 @@ std::unique_ptr<PrintService::Job> PrintService::MakeJob() {
 }
 
 void PrintService::Report(const QString &error) {
+    // A job the user stopped has nothing to report.
+    if (error.isEmpty()) return;
     workbench.Messages().ShowPlain(workbench.Frame(), error, QStringLiteral("Print"), kBoxWarning);
+}
+
+bool PrintService::RunJob(Printout &printout, QPrinter &device, QString &error) {
+    // The box shows only for a job that takes a while.
+    QProgressDialog box(workbench.Frame());
+    box.setWindowTitle(QStringLiteral("Printing"));
+    box.setAccessibleName(QStringLiteral("Printing"));
+    box.setWindowModality(Qt::ApplicationModal);
+    box.setMinimumDuration(800);
+    const PrintProgress progress = [&box](int page, int lastPage) {
+        box.setMaximum(lastPage);
+        box.setLabelText(QStringLiteral("Now printing Page %1 of %2").arg(page).arg(lastPage));
+        box.setValue(page - 1);
+        return !box.wasCanceled();
+    };
+    return run_printout(printout, device, error, progress);
 }
 
 bool PrintService::PrintToPdf(Printout &printout, const QString &path) {
@@ -123,7 +142,7 @@ bool PrintService::PrintToPdf(Printout &printout, const QString &path) {
     const QString partial = path + QStringLiteral(".part");
     file.setOutputFileName(partial);
     QString error;
-    if (!run_printout(printout, file, error)) {
+    if (!RunJob(printout, file, error)) {
         QFile::remove(partial);
         Report(error);
         return false;
@@ -157,7 +176,7 @@ void PrintService::Print() {
     job->printout->Prepare(device);
     if (!choosePrinter(device, job->printout->OfferedPageCount(), workbench.Frame())) return;
     QString error;
-    if (!run_printout(*job->printout, device, error)) Report(error);
+    if (!RunJob(*job->printout, device, error)) Report(error);
 }
 
 void PrintService::ExportPdf() {

@@ -47,6 +47,7 @@ private:
     struct Job;
     std::unique_ptr<Job> MakeJob();
     bool PrintToPdf(Printout &printout, const QString &path);
+    bool RunJob(Printout &printout, QPrinter &device, QString &error);
     void Report(const QString &error);
 
     Workbench &workbench;

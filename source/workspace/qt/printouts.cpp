@@ -96,7 +96,8 @@ void ListPrintout::DrawPage(QPainter &painter, int page) const {
         deviceFont.DrawRow(painter, row, rows[first + row]);
 }
 
-bool run_printout(Printout &printout, QPrinter &printer, QString &error) {
+bool run_printout(Printout &printout, QPrinter &printer, QString &error,
+                  const PrintProgress &progress) {
     printout.Prepare(printer);
     const int count = printout.PageCount();
     if (count < 1) return true;
@@ -116,6 +117,11 @@ bool run_printout(Printout &printout, QPrinter &printer, QString &error) {
         if (page != from && !printer.newPage()) {
             painter.end();
             error = QStringLiteral("The printer stopped at page %1.").arg(page);
+            return false;
+        }
+        if (progress && !progress(page, to)) {
+            printer.abort();
+            painter.end();
             return false;
         }
         printout.DrawPage(painter, page);

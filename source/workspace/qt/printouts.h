@@ -9,6 +9,7 @@
 #include <QFont>
 #include <QString>
 #include <QStringList>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -81,8 +82,14 @@ private:
     int pageCount = 0;
 };
 
+// Told before each page is drawn, with the page and the last page of the job; false stops
+// the job.
+using PrintProgress = std::function<bool(int page, int lastPage)>;
+
 // Prints the printout's pages in the printer's range (all when it names none). False with
-// the reason when the job could not start or a page could not be added.
-bool run_printout(Printout &printout, QPrinter &printer, QString &error);
+// the reason when the job could not start or a page could not be added, and with no reason
+// when progress stopped it.
+bool run_printout(Printout &printout, QPrinter &printer, QString &error,
+                  const PrintProgress &progress = {});
 
 }  // namespace quindar

@@ -97,6 +97,7 @@ private slots:
     void anEmptyEditorPrintsNothing();
     void aFocusedListPrintsItsRows();
     void previewPagesOneAndTwoUp();
+    void aRangeAndAStoppedJob();
 
 private:
     QTemporaryDir output;
@@ -248,6 +249,43 @@ void PrintingWindows::previewPagesOneAndTwoUp() {
     QCOMPARE(seen, (QStringList{"Page 1", "Page 1 - 2", "Page 2 - 3", "next off", "Page 2 - 3",
                                 "Page 1 - 2", "previous off", "Page 1", "Page 3"}));
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void PrintingWindows::aRangeAndAStoppedJob() {
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    QFont font(QStringLiteral("Liberation Mono"));
+    font.setPointSize(10);
+    const int perPage = TextLinesPerPage(printer, font);
+    QStringList lines;
+    for (int number = 1; number <= 3 * perPage; ++number) lines << Line(number);
+    TextPrintout printout(lines.join(QStringLiteral("\r\n")).toStdString(),
+                          QStringLiteral("Header"), font);
+
+    // The dialog's range prints its pages alone, the first of them without the header.
+    const QString range = output.filePath(QStringLiteral("range.pdf"));
+    printer.setOutputFileName(range);
+    printer.setFromTo(2, 2);
+    QString error;
+    QVERIFY(run_printout(printout, printer, error));
+    const QStringList pages = PdfPages(range);
+    QCOMPARE(pages.size(), 1);
+    QVERIFY(!pages[0].contains(QStringLiteral("Header")));
+    QVERIFY(pages[0].contains(Line(perPage + 1)));
+    QVERIFY(pages[0].contains(Line(2 * perPage)));
+    QVERIFY(!pages[0].contains(Line(perPage)));
+    QVERIFY(!pages[0].contains(Line(2 * perPage + 1)));
+
+    // Stopped before its second page, the job ends with nothing to report.
+    printer.setOutputFileName(output.filePath(QStringLiteral("stopped.pdf")));
+    printer.setFromTo(0, 0);
+    QList<int> told;
+    QVERIFY(!run_printout(printout, printer, error, [&](int page, int lastPage) {
+        told << page << lastPage;
+        return page < 2;
+    }));
+    QVERIFY(error.isEmpty());
+    QCOMPARE(told, (QList<int>{1, 3, 2, 3}));
 }
 
 QTEST_MAIN(PrintingWindows)
