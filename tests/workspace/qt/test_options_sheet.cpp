@@ -61,6 +61,8 @@ private slots:
     void leavingAChangedViewAsksAboutIt();
     void angleGoesToOneDocumentBracketsToAll();
     void fromTheVariablesListTheVariablesShow();
+    void enterPressesOk();
+    void changingTheTargetAsksToApply();
     void mediaPlayerFromTheDesktopDefault();
 };
 
@@ -256,6 +258,37 @@ void OptionsSheetWindow::mediaPlayerFromTheDesktopDefault() {
     QVERIFY(page.useDefault->isChecked());
     Click(sheet.Buttons().button(QDialogButtonBox::Ok));
     QVERIFY(IniText(harness).contains(QStringLiteral("MediaPlayerPath=/bin/true")));
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void OptionsSheetWindow::enterPressesOk() {
+    DesktopHarness harness;
+    OptionsSheet sheet(harness.Bench(), &harness.Frame());
+    sheet.show();
+    Click(sheet.PrecisionPage()->lower);
+    QTest::keyClick(&sheet, Qt::Key_Return);
+    QCOMPARE(sheet.result(), int(QDialog::Accepted));
+    QVERIFY(IniText(harness).contains(QStringLiteral("ApplyPrecisionFormatToAll=1")));
+}
+
+void OptionsSheetWindow::changingTheTargetAsksToApply() {
+    DesktopHarness harness;
+    DocumentWindow *first = harness.Current();
+    DocumentWindow *second = harness.Client().NewDocument();
+    const int precision = second->Engine().answer_format->precision;
+    OptionsSheet sheet(harness.Bench(), &harness.Frame());
+    PrecisionFormatTab &page = *sheet.PrecisionPage();
+    Click(page.lower);
+    harness.boxes.Expect(
+        QStringLiteral("Would You Like To Apply Your Latest Changes To The Current File In Focus?"),
+        kIdYes);
+    Click(page.applyToFile);
+    QCOMPARE(second->Engine().answer_format->precision, precision - 1);
+    QCOMPARE(first->Engine().answer_format->precision, precision);
+    QVERIFY(!ApplyButton(sheet)->isEnabled());
+    // With nothing changed the other radio asks nothing.
+    Click(page.applyToAll);
+    QVERIFY(IniText(harness).contains(QStringLiteral("ApplyPrecisionFormatToAll=0")));
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
