@@ -161,22 +161,28 @@ void PrintService::Print() {
     DocumentWindow *document = client != nullptr ? client->Current() : nullptr;
     if (document != nullptr && printGraph && printGraph(*document)) return;
     std::unique_ptr<Job> job = MakeJob();
-    if (job == nullptr) return;
+    if (job != nullptr) PrintJob(*job);
+}
+
+void PrintService::PrintJob(Job &job) {
     QPrinter &device = Printer();
     if (printsToFile) {
-        const QString suggested = QFileInfo(job->title).completeBaseName() + QStringLiteral(".pdf");
+        const QString suggested = QFileInfo(job.title).completeBaseName() + QStringLiteral(".pdf");
         const QString path =
             workbench.chooseSaveFile(workbench.Frame(), QStringLiteral("Print to File"), suggested,
                                      QString::fromLatin1(kPdfFilter));
-        if (!path.isEmpty()) PrintToPdf(*job->printout, path);
+        if (!path.isEmpty()) PrintToPdf(*job.printout, path);
+        job.printout->Prepare(device);
         return;
     }
-    device.setDocName(job->title);
+    device.setDocName(job.title);
     device.setFromTo(0, 0);
-    job->printout->Prepare(device);
-    if (!choosePrinter(device, job->printout->OfferedPageCount(), workbench.Frame())) return;
+    job.printout->Prepare(device);
+    if (!choosePrinter(device, job.printout->OfferedPageCount(), workbench.Frame())) return;
     QString error;
-    if (!RunJob(*job->printout, device, error)) Report(error);
+    if (!RunJob(*job.printout, device, error)) Report(error);
+    // The preview goes on showing the printout as laid out for this printer.
+    job.printout->Prepare(device);
 }
 
 void PrintService::ExportPdf() {
@@ -199,7 +205,8 @@ void PrintService::Preview() {
     // The text's preview shows its caption in capitals, the list's as it is.
     if (job->text) caption = caption.toUpper();
     PreviewFrame preview(*job->printout, device, caption, !job->text);
-    preview.print = [this] { Print(); };
+    // Print from the preview prints what it shows, whatever has the focus by then.
+    preview.print = [this, &job] { PrintJob(*job); };
     runPreview(preview, *frame);
 }
 

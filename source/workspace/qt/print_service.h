@@ -46,6 +46,7 @@ public:
 private:
     struct Job;
     std::unique_ptr<Job> MakeJob();
+    void PrintJob(Job &job);
     bool PrintToPdf(Printout &printout, const QString &path);
     bool RunJob(Printout &printout, QPrinter &device, QString &error);
     void Report(const QString &error);

@@ -188,17 +188,31 @@ void PrintingWindows::aFocusedListPrintsItsRows() {
     // Its preview keeps the caption's case and has a Print button.
     QString caption;
     bool hasPrint = false;
-    client_tools_of(harness.Bench())->Printing().runPreview = [&](PreviewFrame &preview,
-                                                                  QWidget &) {
+    const QString fromPreview = output.filePath(QStringLiteral("list-from-preview.pdf"));
+    PrintService &printing = client_tools_of(harness.Bench())->Printing();
+    printing.runPreview = [&](PreviewFrame &preview, QWidget &) {
         caption = preview.windowTitle();
         for (QAction *action : preview.findChildren<QAction *>())
             hasPrint = hasPrint || action->text() == QStringLiteral("Print");
+        // Its Print prints the list, though the focus has moved on.
+        harness.Current()->TextPane().setFocus();
+        harness.nextSaveFile = fromPreview;
+        printing.choosePrinter = [&](QPrinter &printer, int, QWidget *) {
+            printer.setOutputFormat(QPrinter::PdfFormat);
+            printer.setOutputFileName(fromPreview);
+            return true;
+        };
+        preview.print();
         return 2;
     };
     list->setFocus();
     harness.Bench().Router().Execute(command::kFilePrintPreview);
     QCOMPARE(caption, harness.Frame().windowTitle() + QStringLiteral(" (Preview Variables List)"));
     QVERIFY(hasPrint);
+    const QStringList printed = PdfPages(fromPreview);
+    QCOMPARE(printed.size(), 1);
+    QVERIFY(printed[0].contains(QStringLiteral("var5 = 5")));
+    QVERIFY(!printed[0].contains(QStringLiteral("x = 1")));
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
