@@ -98,6 +98,7 @@ private slots:
     void aFocusedListPrintsItsRows();
     void previewPagesOneAndTwoUp();
     void aRangeAndAStoppedJob();
+    void landscapePagesHaveNoTwoUp();
 
 private:
     QTemporaryDir output;
@@ -300,6 +301,30 @@ void PrintingWindows::aRangeAndAStoppedJob() {
     }));
     QVERIFY(error.isEmpty());
     QCOMPARE(told, (QList<int>{1, 3, 2, 3}));
+}
+
+void PrintingWindows::landscapePagesHaveNoTwoUp() {
+    DesktopHarness harness;
+    FillThreePages(harness);
+    PrintService &printing = client_tools_of(harness.Bench())->Printing();
+    // Print Setup is where the user turns the page.
+    printing.pageSetup = [](QPrinter &printer, QWidget *) {
+        printer.setPageOrientation(QPageLayout::Landscape);
+    };
+    harness.Bench().Router().Execute(command::kFilePrintSetup);
+    QCOMPARE(printing.Printer().pageLayout().orientation(), QPageLayout::Landscape);
+    bool twoUpEnabled = true;
+    QString label;
+    printing.runPreview = [&](PreviewFrame &preview, QWidget &) {
+        twoUpEnabled = preview.TwoUpAction().isEnabled();
+        preview.TwoUpAction().trigger();
+        label = preview.PageLabel().text();
+        return 2;
+    };
+    harness.Bench().Router().Execute(command::kFilePrintPreview);
+    QVERIFY(!twoUpEnabled);
+    QCOMPARE(label, QStringLiteral("Page 1"));
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
 QTEST_MAIN(PrintingWindows)
