@@ -118,10 +118,11 @@ void FunctionLibraryDialog::BuildControls() {
     lists->addWidget(categoryList, 2);
     lists->addWidget(nameList, 3);
     auto *buttons = new QGridLayout;
-    const QPushButton *order[] = {helpFunctionButton, insertButton, solveButton,
-                                  editButton,         quitButton,   helpButton};
-    for (int at = 0; at < 6; ++at)
-        buttons->addWidget(const_cast<QPushButton *>(order[at]), at / 3, at % 3);
+    // Help F[x] last in its row, so that hiding it for a constant or a library function
+    // leaves no hole between the others.
+    QPushButton *const order[] = {insertButton, solveButton, helpFunctionButton,
+                                  editButton,   quitButton,  helpButton};
+    for (int at = 0; at < 6; ++at) buttons->addWidget(order[at], at / 3, at % 3);
 
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(searchRow);
