@@ -56,14 +56,13 @@ FunctionLibraryDialog::FunctionLibraryDialog(Workbench &bench, QWidget *parent)
     const std::string systemPath = folders.libraryDir + kSystemLibraryName;
     const std::string userPath = folders.userLibraryDir + kUserLibraryName;
     systemLibrary = std::make_unique<VarFunIniFile>(systemPath.c_str());
-    // A user library that cannot be read is told once; the dialog goes on with the rest.
+    // A user library that cannot be read is told once, with the message Edit F[x] gives for
+    // it; the dialog goes on with the system library.
     userLibrary = std::make_unique<VarFunIniFile>(
-        userPath.c_str(), nullptr, nullptr, [this](std::string_view text, std::string_view) {
+        userPath.c_str(), nullptr, nullptr, [this, userPath](std::string_view, std::string_view) {
             if (userLibraryTold) return;
             userLibraryTold = true;
-            workbench.Messages().ShowPlain(
-                this, FromBytes(text), FromBytes(FunctionLibraryMessageText(kFunctionLibraryTitle)),
-                kBoxWarning);
+            ShowLibraryMessage(kUserLibraryNotOpened, userPath);
         });
     catalog = std::make_unique<FunctionLibraryCatalog>(systemLibrary.get(), userLibrary.get());
     browser = std::make_unique<FunctionLibraryBrowser>(*catalog);

@@ -346,7 +346,9 @@ void FunctionLibraryWindow::unreadableUserLibraryIsToldAndTheDialogWorks() {
     // A folder in the file's place cannot be read, whoever runs the test.
     QVERIFY(QFile::remove(library));
     QVERIFY(QDir().mkpath(library));
-    harness.boxes.Expect(QStringLiteral("QuindarUser.lib"), kIdOk);
+    harness.boxes.Expect(QStringLiteral("The Quindar Function Library File \" ") + library +
+                             QStringLiteral(" \" Could Not Be Opened!"),
+                         kIdOk);
     FunctionLibraryDialog &dialog = OpenLibrary(harness);
     QVERIFY(dialog.isVisible());
     auto *categories = Named<QListWidget>(dialog, QStringLiteral("Categories"));
