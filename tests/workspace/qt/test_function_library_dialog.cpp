@@ -164,6 +164,9 @@ void FunctionLibraryWindow::searchSwitchesToAllAndBackReturns() {
     QCOMPARE(names->currentItem()->text(), QStringLiteral("CIRCLEAREA"));
     QCOMPARE(categories->currentItem()->text(), QStringLiteral("ALL"));
     QVERIFY(!back->isEnabled());
+    // Enter in the Search box presses no button: the dialog stays.
+    QTest::keyClick(search, Qt::Key_Return);
+    QVERIFY(dialog.isVisible());
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 

@@ -62,6 +62,7 @@ private slots:
     void angleGoesToOneDocumentBracketsToAll();
     void fromTheVariablesListTheVariablesShow();
     void enterPressesOk();
+    void helpShowsThePagesTopic();
     void changingTheTargetAsksToApply();
     void mediaPlayerFromTheDesktopDefault();
 };
@@ -290,6 +291,17 @@ void OptionsSheetWindow::changingTheTargetAsksToApply() {
     Click(page.applyToAll);
     QVERIFY(IniText(harness).contains(QStringLiteral("ApplyPrecisionFormatToAll=0")));
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void OptionsSheetWindow::helpShowsThePagesTopic() {
+    DesktopHarness harness;
+    OptionsSheet sheet(harness.Bench(), &harness.Frame());
+    for (int page = 0; page < 3; ++page) {
+        sheet.Tabs().setCurrentIndex(page);
+        Click(sheet.Buttons().button(QDialogButtonBox::Help));
+    }
+    QCOMPARE(harness.services.helpTopics, (QList<int>{19406, 19407, 19492}));
+    QCOMPARE(sheet.result(), 0);
 }
 
 QTEST_MAIN(OptionsSheetWindow)
