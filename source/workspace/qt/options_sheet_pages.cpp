@@ -56,20 +56,40 @@ QPushButton *Button(const char *text, QWidget *parent) {
     return button;
 }
 
-// The pair of radios "Apply To File In Focus" and "Apply To All Files" in a row.
-QGroupBox *ApplyTargetGroup(QWidget *parent, QRadioButton *&toFile, QRadioButton *&toAll) {
-    auto *group = Named(new QGroupBox(parent), QStringLiteral("Apply To"));
-    toFile = Radio("Apply To File In Focus", group);
-    toAll = Radio("Apply To All Files", group);
-    auto *row = new QHBoxLayout(group);
-    row->addWidget(toFile);
-    row->addWidget(toAll);
-    return group;
-}
-
 QGroupBox *Group(const char *title, QWidget *parent) {
     return Named(new QGroupBox(QString::fromLatin1(title), parent), QString::fromLatin1(title));
 }
+
+// A group of two radios, side by side or one above the other.
+struct RadioPairSpec {
+    const char *title;  // null: an untitled group, named by name
+    const char *name;
+    const char *first;
+    const char *second;
+    bool stacked;
+};
+
+QGroupBox *RadioPair(const RadioPairSpec &spec, QWidget *parent, QRadioButton *&first,
+                     QRadioButton *&second) {
+    QGroupBox *group = spec.title != nullptr
+                           ? Group(spec.title, parent)
+                           : Named(new QGroupBox(parent), QString::fromLatin1(spec.name));
+    first = Radio(spec.first, group);
+    second = Radio(spec.second, group);
+    QBoxLayout *layout = spec.stacked ? static_cast<QBoxLayout *>(new QVBoxLayout(group))
+                                      : static_cast<QBoxLayout *>(new QHBoxLayout(group));
+    layout->addWidget(first);
+    layout->addWidget(second);
+    return group;
+}
+
+constexpr RadioPairSpec kApplyTarget{nullptr, "Apply To", "Apply To File In Focus",
+                                     "Apply To All Files", false};
+constexpr RadioPairSpec kWindowPair{"Window", nullptr, "Math Editor", "Variables", false};
+constexpr RadioPairSpec kTrigPair{"Trigonometric", nullptr, "Degrees", "Radians", false};
+constexpr RadioPairSpec kKeysPair{"Calculation Keys", nullptr,
+                                  "Use the Enter button or F4 to calculate",
+                                  "Use Shift+Enter button or F4 to calculate", true};
 
 // The record the page opens on: the variables' when the sheet was called from the Variables
 // list, the editor's otherwise.
@@ -94,7 +114,7 @@ PrecisionFormatTab::PrecisionFormatTab(OptionsSheet &owner)
     : sheet(owner),
       page(owner.Documents()[0]->Engine(), owner.Options().applyPrecisionToAll, OpeningWindow()) {
     setAccessibleName(QStringLiteral("Precision/Format"));
-    QGroupBox *target = ApplyTargetGroup(this, applyToFile, applyToAll);
+    QGroupBox *target = RadioPair(kApplyTarget, this, applyToFile, applyToAll);
 
     auto *precisionGroup = Group("Precision", this);
     precision = Named(new QLineEdit(precisionGroup), QStringLiteral("Precision"));
@@ -138,12 +158,7 @@ PrecisionFormatTab::PrecisionFormatTab(OptionsSheet &owner)
         Named(new QLabel(QStringLiteral(" To 0.0"), zeroGroup), QStringLiteral("To 0.0")));
     zeroRow->addStretch(1);
 
-    auto *windowGroup = Group("Window", this);
-    mathEditor = Radio("Math Editor", windowGroup);
-    variables = Radio("Variables", windowGroup);
-    auto *windowRow = new QHBoxLayout(windowGroup);
-    windowRow->addWidget(mathEditor);
-    windowRow->addWidget(variables);
+    QGroupBox *windowGroup = RadioPair(kWindowPair, this, mathEditor, variables);
 
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(target);
@@ -240,19 +255,9 @@ void PrecisionFormatTab::Apply() {
 MathOptionsTab::MathOptionsTab(OptionsSheet &owner)
     : sheet(owner), page(owner.Documents()[0]->Engine(), owner.Options()) {
     setAccessibleName(QStringLiteral("Mathematical"));
-    QGroupBox *target = ApplyTargetGroup(this, applyToFile, applyToAll);
-    auto *trigGroup = Group("Trigonometric", this);
-    degrees = Radio("Degrees", trigGroup);
-    radians = Radio("Radians", trigGroup);
-    auto *trigRow = new QHBoxLayout(trigGroup);
-    trigRow->addWidget(degrees);
-    trigRow->addWidget(radians);
-    auto *keysGroup = Group("Calculation Keys", this);
-    enterComputes = Radio("Use the Enter button or F4 to calculate", keysGroup);
-    shiftEnterComputes = Radio("Use Shift+Enter button or F4 to calculate", keysGroup);
-    auto *keysColumn = new QVBoxLayout(keysGroup);
-    keysColumn->addWidget(enterComputes);
-    keysColumn->addWidget(shiftEnterComputes);
+    QGroupBox *target = RadioPair(kApplyTarget, this, applyToFile, applyToAll);
+    QGroupBox *trigGroup = RadioPair(kTrigPair, this, degrees, radians);
+    QGroupBox *keysGroup = RadioPair(kKeysPair, this, enterComputes, shiftEnterComputes);
     auto *bracketsGroup = Group("Function Delimiters", this);
     squareBrackets = Check("Use square brackets [ ] for function delimiters", bracketsGroup);
     (new QVBoxLayout(bracketsGroup))->addWidget(squareBrackets);
