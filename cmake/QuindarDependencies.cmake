@@ -31,7 +31,7 @@ endif()
 
 # Qt only for the desktop program and its tests; the engine and quindar-cli build without it.
 if(QUINDAR_BUILD_DESKTOP)
-    set(quindar_qt_components Widgets)
+    set(quindar_qt_components Widgets PrintSupport)
     if(QUINDAR_BUILD_TESTS)
         list(APPEND quindar_qt_components Test)
     endif()

@@ -18,6 +18,7 @@ constexpr CommandInfo kCommands[] = {
     {24340, "Print Pre&view...", 19427, 0, false, nullptr, true},
     {24337, "&Print...", 19426, 0, false, "Ctrl+P", true},
     {24338, "P&rint Setup...", 19430, 0, false, nullptr, true},
+    {24345, "Export to P&DF...", 0, 0, false, nullptr, false},
     {24310, "E&xit\tAlt+F4", 0, 0, false, "Ctrl+Q", true},
     {24386, "&Help Contents\tF1", 0, 0, false, nullptr, true},
     {24391, "Help &Math Functions", 0, 0, false, nullptr, true},
@@ -80,7 +81,7 @@ constexpr CommandInfo kCommands[] = {
 
 constexpr int kFileMenu[] = {kFileNew,   kFileOpen,       kFileClose, kSeparator,
                              kFileSave,  kFileSaveAs,     kSeparator, kFilePrintPreview,
-                             kFilePrint, kFilePrintSetup, kSeparator, kExit};
+                             kFilePrint, kFilePrintSetup, kExportPdf, kSeparator, kExit};
 constexpr int kEditMenu[] = {kEditUndo,  kSeparator, kEditCut,   kEditCopy,
                              kEditPaste, kSeparator, kEditClear, kEditDelete};
 constexpr int kSearchMenu[] = {kEditFind, kEditReplace, kEditFindNext};

@@ -28,7 +28,7 @@ namespace command {
 // File.
 inline constexpr int kFileNew = 24331, kFileOpen = 24332, kFileClose = 24339, kFileSave = 24333,
                      kFileSaveAs = 24334, kFilePrintPreview = 24340, kFilePrint = 24337,
-                     kFilePrintSetup = 24338, kExit = 24310;
+                     kFilePrintSetup = 24338, kExportPdf = 24345, kExit = 24310;
 // Help.
 inline constexpr int kHelpContents = 24386, kHelpMathFunctions = 24391, kHelpIndex = 24387,
                      kHelpKey = 24388, kContextHelp = 24393, kHelpUsing = 24389,

@@ -15,8 +15,8 @@ TEST(CommandTable, IdsAreUniqueAndEveryMenuItemIsACommand) {
     std::set<int> ids;
     for (const CommandInfo &command : command_table())
         EXPECT_TRUE(ids.insert(command.id).second) << command.id;
-    // 62 items in the menus and the four of the Margins pop-up.
-    EXPECT_EQ(ids.size(), 66u);
+    // 63 items in the menus (Export to PDF among them) and the four of the Margins pop-up.
+    EXPECT_EQ(ids.size(), 67u);
     std::size_t items = 0;
     for (const MenuSpec &menu : menu_bar()) {
         for (const int item : menu.items) {
@@ -43,6 +43,7 @@ constexpr CommandCase kCommands[] = {
     {command::kFileSave, "&Save File", 19429, 0, "Ctrl+S"},
     {command::kFileSaveAs, "Save &As...", 0, 0, nullptr},
     {command::kExit, "E&xit\tAlt+F4", 0, 0, "Ctrl+Q"},
+    {command::kExportPdf, "Export to P&DF...", 0, 0, nullptr},
     {command::kEditUndo, "&Undo\tCtrl+Z", 19416, 0, "Alt+Backspace"},
     {command::kEditCut, "Cu&t\tCtrl+X", 19413, 0, "Shift+Del"},
     {command::kEditCopy, "&Copy\tCtrl+C", 19414, 0, "Ctrl+Ins"},

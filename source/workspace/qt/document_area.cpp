@@ -285,6 +285,7 @@ bool DocumentArea::CommandEnabler(int id, CommandState &state) {
         case command::kOptions:
         case command::kFunctionLibrary:
         case command::kFilePrint:
+        case command::kExportPdf:
             state.enabled = haveDocument;
             return true;
         case command::kFileSave:

@@ -42,8 +42,12 @@ public:
 
     DocumentChanges Changes() const;
     bool IsDirty() const { return document_dirty(Changes()); }
-    // A tool window changed the settings the document keeps (the calculus pages' boxes).
-    void MarkSettingsChanged() { settingsChanged = true; }
+    // A tool window changed the settings the document keeps (Options, the calculus pages'
+    // boxes): it asks to be saved.
+    void MarkSettingsChanged() {
+        settingsChanged = true;
+        emit stateChanged();
+    }
     // What the document is busy with; nothing computes yet, so this stays idle until the
     // graph and calculus windows report through it.
     std::function<DocumentActivity()> activity;

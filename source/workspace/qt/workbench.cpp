@@ -14,6 +14,7 @@
 #include <QProcess>
 
 #include "calculus_tools.h"
+#include "client_tools.h"
 #include "command_table.h"
 #include "document_area.h"
 #include "document_close_rules.h"
@@ -92,6 +93,7 @@ Workbench::Workbench(AppServices &appServices, DesktopFolders desktopFolders)
     });
 
     create_user_library(folders.userLibraryDir);
+    install_client_tools(*this);
     const AppSettings settings = Settings();
     soundOn = settings.Sound();
     showIncrementals = settings.IncrementalVariables();

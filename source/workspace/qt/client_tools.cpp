@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Quindar developers
+#include "client_tools.h"
+
+#include "command_table.h"
+#include "function_library_dialog.h"
+#include "main_frame.h"
+#include "options_sheet.h"
+#include "workbench.h"
+
+namespace quindar {
+
+ClientTools::ClientTools(Workbench &bench) : QObject(&bench), workbench(bench), printing(bench) {
+    setObjectName(QStringLiteral("ClientTools"));
+}
+
+ClientTools::~ClientTools() = default;
+
+bool ClientTools::Run(int id) {
+    switch (id) {
+        case command::kFunctionLibrary:
+            ShowFunctionLibrary();
+            return true;
+        case command::kOptions:
+            ShowOptions();
+            return true;
+        case command::kFilePrint:
+            printing.Print();
+            return true;
+        case command::kFilePrintPreview:
+            printing.Preview();
+            return true;
+        case command::kFilePrintSetup:
+            printing.PrintSetup();
+            return true;
+        case command::kExportPdf:
+            printing.ExportPdf();
+            return true;
+        default:
+            return false;
+    }
+}
+
+FunctionLibraryDialog &ClientTools::ShowFunctionLibrary() {
+    if (functionLibrary == nullptr) {
+        functionLibrary = new FunctionLibraryDialog(workbench, workbench.Frame());
+        functionLibrary->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    functionLibrary->show();
+    functionLibrary->raise();
+    functionLibrary->activateWindow();
+    return *functionLibrary;
+}
+
+void ClientTools::ShowOptions() {
+    OptionsSheet sheet(workbench, workbench.Frame());
+    if (workbench.runDialog)
+        workbench.runDialog(sheet);
+    else
+        sheet.exec();
+}
+
+ClientTools &install_client_tools(Workbench &workbench) {
+    auto *tools = new ClientTools(workbench);
+    workbench.clientTools = [tools](int id) { return tools->Run(id); };
+    return *tools;
+}
+
+ClientTools *client_tools_of(Workbench &workbench) {
+    return workbench.findChild<ClientTools *>(QStringLiteral("ClientTools"),
+                                              Qt::FindDirectChildrenOnly);
+}
+
+}  // namespace quindar
