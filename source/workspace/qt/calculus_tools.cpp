@@ -125,7 +125,7 @@ void InstallCalculusTools(Workbench &workbench) {
             OpenCalculusUtility(*bench, document, QString(), LastCalculusPage(document));
             return true;
         }
-        return before ? before(document, id) : true;
+        return before ? before(document, id) : false;
     };
 }
 
