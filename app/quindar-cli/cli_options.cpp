@@ -5,13 +5,17 @@
 namespace quindar::cli {
 
 const char *const kUsage =
-    "Usage: quindar-cli [--enter] [--in-place] [--radians] [--save DOC.qnd] [FILE]\n"
+    "Usage: quindar-cli [--enter] [--in-place] [--radians] [--precision N] [--save DOC.qnd]\n"
+    "                   [FILE]\n"
+    "       quindar-cli --functions [CATEGORY] | --describe NAME\n"
     "       quindar-cli --integrate EXPR VAR LOW HIGH [--accuracy A] [OPTIONS] [FILE]\n"
     "       quindar-cli --derivative EXPR VAR AT [--order N] [--step H] [OPTIONS] [FILE]\n"
     "       quindar-cli --root EXPR VAR LOW HIGH [OPTIONS] [FILE]\n";
 
 const char *const kHelp =
-    "Usage: quindar-cli [--enter] [--in-place] [--radians] [--save DOC.qnd] [FILE]\n"
+    "Usage: quindar-cli [--enter] [--in-place] [--radians] [--precision N] [--save DOC.qnd]\n"
+    "                   [FILE]\n"
+    "       quindar-cli --functions [CATEGORY] | --describe NAME\n"
     "       quindar-cli --integrate EXPR VAR LOW HIGH [--accuracy A] [OPTIONS] [FILE]\n"
     "       quindar-cli --derivative EXPR VAR AT [--order N] [--step H] [OPTIONS] [FILE]\n"
     "       quindar-cli --root EXPR VAR LOW HIGH [OPTIONS] [FILE]\n"
@@ -25,10 +29,16 @@ const char *const kHelp =
     "               line then ends in a line break\n"
     "  --in-place   write the result back to FILE instead of standard output\n"
     "  --radians    angles in radians (degrees unless a document says otherwise)\n"
+    "  --precision N  significant digits of the answers, 1 to 14 (14 unless given or\n"
+    "               set by the document)\n"
     "  --save DOC.qnd  also save the computed work (text, variables, functions,\n"
     "               settings and graphs) as the document DOC.qnd\n"
     "  -h, --help   show this text\n"
     "  --version    print the program's version\n"
+    "\n"
+    "The Function Library: --functions lists its categories; --functions CATEGORY lists\n"
+    "the names of one with their prototypes; --describe NAME prints the prototype and\n"
+    "description of a function or constant (of a library function, its definition).\n"
     "\n"
     "Numeric computations print one value. EXPR is mapped once and solved at each sample;\n"
     "LOW, HIGH and AT are expressions. With FILE, its lines are computed first, silently,\n"
@@ -112,6 +122,10 @@ std::optional<Options> ParseOptions(const std::vector<std::string> &arguments, s
             options.key = RunKey::Enter;
         } else if (!optionsEnded && argument == "--in-place") {
             options.inPlace = true;
+        } else if (const int read =
+                       optionsEnded ? 0
+                                    : ParseDescribeOption(arguments, at, options.describe, error)) {
+            if (read < 0) return std::nullopt;
         } else if (!optionsEnded && argument.size() > 1 && argument[0] == '-') {
             error = "unknown option \"" + argument + "\"";
             return std::nullopt;
@@ -133,8 +147,21 @@ std::optional<Options> ParseOptions(const std::vector<std::string> &arguments, s
                     " does not go with a numeric computation";
             return std::nullopt;
         }
-    } else if (!settingsGiven.empty()) {
-        error = settingsGiven.front() + " needs --integrate, --derivative or --root";
+    } else {
+        // --precision alone sets the answers' digits; the other settings refine a computation.
+        for (const std::string &setting : settingsGiven)
+            if (setting != "--precision") {
+                error = setting + " needs --integrate, --derivative or --root";
+                return std::nullopt;
+            }
+        if (calculus.precision) {
+            options.answerPrecision = ReadAnswerPrecision(*calculus.precision, error);
+            if (!options.answerPrecision) return std::nullopt;
+        }
+    }
+    if (options.describe.Wanted() &&
+        (options.calculus || havePath || options.inPlace || !options.savePath.empty())) {
+        error = "--functions and --describe stand alone";
         return std::nullopt;
     }
     if (options.inPlace && !options.help && options.path == "-") {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "cli_calculus.h"
+#include "cli_describe.h"
 #include "cli_document.h"
 #include "cli_files.h"
 #include "cli_options.h"
@@ -102,10 +103,16 @@ int main(int argc, char **argv) {
     Parser parser(libraries.c_str(), libraries.c_str());
     Warn(OpenLibraries(parser, libraries));
     if (options->calculus) return Compute(*options, parser);
+    if (options->describe.Wanted()) {
+        const int status = cli::RunDescribe(options->describe, libraries, std::cout, error);
+        if (status == 1) std::cerr << "quindar-cli: " << error << '\n';
+        return status == 2 ? Fail(error) : status;
+    }
 
     Work work;
     if (!LoadWork(options->path, parser, work, error)) return Fail(error);
     if (options->radians) parser.angle_mode = 1;
+    if (options->answerPrecision) cli::ApplyAnswerPrecision(parser, *options->answerPrecision);
     const TextRun run = RunText(work.text, options->key, parser);
     // A document holds its text with CR LF line ends, whatever the input had.
     work.document.text = ToCrLf(run.text);

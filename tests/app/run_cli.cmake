@@ -8,7 +8,9 @@
 #           in place must become SAVED; usage: run with ARGS (and ARGS2) and check CODE,
 #           and that
 #           standard output holds STDOUT_HAS or standard error STDERR_HAS, or standard
-#           output is exactly STDOUT_IS; "|" separates several arguments in ARGS
+#           output is exactly STDOUT_IS; "|" separates several arguments in ARGS;
+#           golden: run with ARGS (INPUT on standard input, if given), check CODE, and
+#           compare standard output with EXPECTED
 cmake_minimum_required(VERSION 3.25)
 
 file(REMOVE_RECURSE ${WORK})
@@ -52,6 +54,23 @@ macro(run_in_place name)
     endif()
     set(out ${copy})
 endmacro()
+
+# golden: run with ARGS, check CODE, and standard output against the file EXPECTED.
+if(MODE STREQUAL "golden")
+    string(REPLACE "|" ";" ARGS "${ARGS}")
+    if(DEFINED INPUT)
+        execute_process(COMMAND ${CLI} ${ARGS} INPUT_FILE ${INPUT} OUTPUT_FILE ${out}
+            ERROR_FILE ${err} RESULT_VARIABLE code)
+    else()
+        execute_process(COMMAND ${CLI} ${ARGS} OUTPUT_FILE ${out} ERROR_FILE ${err}
+            RESULT_VARIABLE code)
+    endif()
+    if(NOT code STREQUAL CODE)
+        fail("exit status ${code}, expected ${CODE}")
+    endif()
+    same_file(${out} ${EXPECTED} "standard output")
+    return()
+endif()
 
 if(MODE STREQUAL "usage")
     string(REPLACE "|" ";" ARGS "${ARGS}")
