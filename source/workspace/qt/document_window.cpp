@@ -9,6 +9,7 @@
 #include "command_table.h"
 #include "document_file.h"
 #include "document_font.h"
+#include "document_panes.h"
 #include "document_roster.h"
 #include "library_files.h"
 #include "math_editor_widget.h"
@@ -53,6 +54,7 @@ constexpr PaneCommand kPaneCommands[] = {
     {command::kVariablesManager, true},
     {command::kFunctionManager, true},
     {command::kCalculus, true},
+    {command::kComputeAll, true},
     {command::kChooseFont, true},
     {command::kOpenGraphFile, true},
     {command::kGraphSetup, false},
@@ -105,7 +107,8 @@ DocumentWindow::DocumentWindow(Workbench &owner, int documentNumber, QWidget *pa
     textPane->setFont(qfont_of(content.font));
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(textPane);
+    panes = new DocumentPanes(workbench, *textPane, *parser, boxes, this);
+    layout->addWidget(panes);
     setFocusProxy(textPane);
     setAccessibleName(Caption());
     setWindowTitle(Caption());
@@ -226,24 +229,13 @@ bool DocumentWindow::CanClose() {
 }
 
 bool DocumentWindow::CommandEnabler(int id, CommandState &state) {
+    if (panes->CommandEnabler(id, state)) return true;
     switch (id) {
         case command::kFileSave:
             state.enabled = IsDirty();
             return true;
         case command::kFileSaveAs:
         case command::kFileClose:
-            return true;
-        case command::kVariablesList:
-            state.checked = variablesListOpen;
-            return true;
-        case command::kFunctionsList:
-            state.checked = functionsListOpen;
-            return true;
-        case command::kListsRight:
-            state.checked = listsRight;
-            return true;
-        case command::kListsTop:
-            state.checked = !listsRight;
             return true;
         case command::kShowMathWindow:
             state.checked = true;
@@ -264,6 +256,7 @@ bool DocumentWindow::CommandEnabler(int id, CommandState &state) {
 }
 
 bool DocumentWindow::CommandHandler(int id) {
+    if (panes->CommandHandler(id)) return true;
     switch (id) {
         case command::kFileSave:
             Save();
@@ -273,18 +266,6 @@ bool DocumentWindow::CommandHandler(int id) {
             return true;
         case command::kFileClose:
             workbench.CloseDocument(this);
-            return true;
-        case command::kVariablesList:
-            variablesListOpen = !variablesListOpen;
-            return true;
-        case command::kFunctionsList:
-            functionsListOpen = !functionsListOpen;
-            return true;
-        case command::kListsRight:
-            listsRight = true;
-            return true;
-        case command::kListsTop:
-            listsRight = false;
             return true;
         default:
             break;

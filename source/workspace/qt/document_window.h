@@ -18,6 +18,7 @@
 
 namespace quindar {
 
+class DocumentPanes;
 class MathEditorWidget;
 class Parser;
 class Workbench;
@@ -37,6 +38,7 @@ public:
     QString Caption() const;
 
     MathEditorWidget &TextPane() { return *textPane; }
+    DocumentPanes &Panes() { return *panes; }
     Parser &Engine() { return *parser; }
     DocumentContent &Content() { return content; }
 
@@ -73,15 +75,11 @@ private:
     std::unique_ptr<Parser> parser;
     DocumentContent content;
     MathEditorWidget *textPane = nullptr;
+    DocumentPanes *panes = nullptr;
     bool graphsChanged = false;
     bool settingsChanged = false;
     bool textChanged = false;
     bool closeChecked = false;
-    // Whether the list panes and the graph view stand open; the panes come with their own
-    // windows, until then the commands keep the states.
-    bool variablesListOpen = true;
-    bool functionsListOpen = true;
-    bool listsRight = true;
 };
 
 }  // namespace quindar

@@ -12,6 +12,7 @@
 #include <QKeyEvent>
 #include <QProcess>
 
+#include "calculator_bar.h"
 #include "command_table.h"
 #include "document_area.h"
 #include "document_close_rules.h"
@@ -93,6 +94,7 @@ Workbench::Workbench(AppServices &appServices, DesktopFolders desktopFolders)
         const TColor color = settings.CustomColor(n);
         QColorDialog::setCustomColor(n - 1, QColor(color.Red(), color.Green(), color.Blue()));
     }
+    InstallCalculatorBar(*this);
 }
 
 Workbench::~Workbench() {
