@@ -11,9 +11,13 @@
 #include "command_table.h"
 #include "compute_all.h"
 #include "delete_questions.h"
+#include "document_area.h"
+#include "document_window.h"
 #include "editor_messages.h"
 #include "engine_list_pane.h"
+#include "find_replace_dialog.h"
 #include "list_window_rules.h"
+#include "main_frame.h"
 #include "manager_dialog.h"
 #include "manager_messages.h"
 #include "math_editor_widget.h"
@@ -91,6 +95,14 @@ DocumentPanes::DocumentPanes(Workbench &owner, MathEditorWidget &textPane, Parse
     editor.UpdateFunListWindow = [this] { functionsList->Refill(); };
     Refresh(ListEvent::PaneOpens);
 
+    // A document taking the focus shows its own declarations.
+    if (MainFrame *frame = workbench.Frame()) {
+        connect(frame->Client(), &DocumentArea::currentDocumentChanged, this, [this, frame] {
+            if (static_cast<QWidget *>(frame->Client()->Current()) == parentWidget())
+                Refresh(ListEvent::ChildTakesFocus);
+        });
+    }
+    text.searchCommands = [this](int id) { return Search().Command(id); };
     calculator = std::make_unique<CalculatorOperations>(text.Buffer(), editor);
     calculator->SetAngleMode = [this](int mode) { parser.angle_mode = mode; };
     calculator->ShowMessage = [this](int, std::string_view message, std::string_view caption,
@@ -101,6 +113,11 @@ DocumentPanes::DocumentPanes(Workbench &owner, MathEditorWidget &textPane, Parse
 }
 
 DocumentPanes::~DocumentPanes() = default;
+
+FindReplaceDialog &DocumentPanes::Search() {
+    if (search == nullptr) search = new FindReplaceDialog(workbench, text, this);
+    return *search;
+}
 
 bool DocumentPanes::VariablesListOpen() const {
     return !variablesList->isHidden();

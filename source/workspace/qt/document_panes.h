@@ -22,6 +22,7 @@ namespace quindar {
 
 class CalculatorOperations;
 class EngineListPane;
+class FindReplaceDialog;
 class MathEditorWidget;
 class Parser;
 class Workbench;
@@ -62,6 +63,9 @@ public:
     // Puts text at the caret of the text pane, over its selection.
     void InsertIntoText(const std::string &text);
 
+    // The Find and Replace window of this text, made when first asked for.
+    FindReplaceDialog &Search();
+
     // The calculator keys' operations on this text, with the memory of its keys.
     CalculatorOperations &Calculator() { return *calculator; }
 
@@ -86,6 +90,7 @@ private:
     QSplitter *lists = nullptr;
     bool listsRight = true;
     std::unique_ptr<CalculatorOperations> calculator;
+    FindReplaceDialog *search = nullptr;
 };
 
 }  // namespace quindar

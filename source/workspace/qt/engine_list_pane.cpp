@@ -129,6 +129,8 @@ int EngineListPane::EntryCount() const {
 
 void EngineListPane::Refill() {
     Parser &parser = panes.Engine();
+    // The lists write in the document's font.
+    if (font() != panes.Text().font()) setFont(panes.Text().font());
     clear();
     QList<QTreeWidgetItem *> items;
     const int count = EntryCount();

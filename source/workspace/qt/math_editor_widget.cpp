@@ -204,6 +204,9 @@ void MathEditorWidget::FindText(bool askForText) {
 }
 
 bool MathEditorWidget::CommandHandler(int id) {
+    if (searchCommands &&
+        (id == command::kEditFind || id == command::kEditReplace || id == command::kEditFindNext))
+        return searchCommands(id);
     switch (id) {
         case command::kEditUndo:
             undo();

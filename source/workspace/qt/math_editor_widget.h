@@ -42,6 +42,9 @@ public:
     // The pop-up menu's items are the program's commands, made by whoever owns them.
     std::function<QAction *(int id, QMenu *menu)> makeAction;
 
+    // Find, Replace and Find Next, when a search window of the document's takes them.
+    std::function<bool(int id)> searchCommands;
+
     // Files dropped on the text are opened, not pasted.
     std::function<void(const QStringList &paths)> openFiles;
 

@@ -2,9 +2,11 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 // A document's panes at work: Compute All, the Variables and Functions lists with their
 // Delete key and questions, the two managers, the calculator bar and the lists' placement.
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
 #include <QLineEdit>
+#include <QRadioButton>
 #include <QSplitter>
 #include <QTest>
 #include <QTextBlock>
@@ -18,6 +20,7 @@
 #include "document_panes.h"
 #include "document_window.h"
 #include "engine_list_pane.h"
+#include "find_replace_dialog.h"
 #include "main_frame.h"
 #include "manager_dialog.h"
 #include "math_editor_widget.h"
@@ -86,6 +89,9 @@ private slots:
     void typingAPrefixSelectsTheEntry();
     void calculatorKeyActsOnTheEditorWithoutFocus();
     void listsMoveToTheTopAndBackKeepingTheText();
+    void findHonoursCaseWordAndDirection();
+    void replaceAllIsOneUndoStep();
+    void findNextWithoutASearchOpensFind();
     void screenshotOfADocumentWithListsAndCalculator();
 };
 
@@ -321,6 +327,67 @@ void DocumentPanesTest::listsMoveToTheTopAndBackKeepingTheText() {
     QVERIFY(!panes.FunctionsListOpen());
     QVERIFY(harness.Bench().Router().Execute(command::kFunctionsList));
     QVERIFY(panes.FunctionsListOpen());
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DocumentPanesTest::findHonoursCaseWordAndDirection() {
+    DesktopHarness harness;
+    MathEditorWidget &pane = harness.Current()->TextPane();
+    pane.setPlainText(QStringLiteral("ab = 1\nAB+abc\nab*2"));
+    pane.moveCursor(QTextCursor::Start);
+    QVERIFY(harness.Bench().Router().Execute(command::kEditFind));
+    FindReplaceDialog &search = harness.Current()->Panes().Search();
+    QVERIFY(search.isVisible());
+    search.FindBox().setText(QStringLiteral("ab"));
+    struct Step {
+        bool matchCase, wholeWord, up;
+        int line, column;
+    };
+    // From the start of the text, one search per row, each from where the last one stopped.
+    const Step steps[] = {
+        {false, false, false, 0, 0}, {false, false, false, 1, 0}, {true, false, false, 1, 3},
+        {true, true, false, 2, 0},   {false, true, true, 1, 0},   {false, true, true, 0, 0},
+    };
+    for (const Step &step : steps) {
+        search.MatchCase().setChecked(step.matchCase);
+        search.WholeWord().setChecked(step.wholeWord);
+        search.Up().setChecked(step.up);
+        QVERIFY(search.FindNext());
+        const QTextCursor found = pane.textCursor();
+        QCOMPARE(found.blockNumber(), step.line);
+        QCOMPARE(found.selectionStart() - found.block().position(), step.column);
+    }
+    search.FindBox().setText(QStringLiteral("xyz"));
+    harness.boxes.Expect(QStringLiteral("Cannot find \"xyz\"."), kIdOk);
+    QVERIFY(!search.FindNext());
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DocumentPanesTest::replaceAllIsOneUndoStep() {
+    DesktopHarness harness;
+    MathEditorWidget &pane = harness.Current()->TextPane();
+    pane.setPlainText(QStringLiteral("x+1\nX*x\nmax[x]"));
+    QVERIFY(harness.Bench().Router().Execute(command::kEditReplace));
+    FindReplaceDialog &search = harness.Current()->Panes().Search();
+    search.FindBox().setText(QStringLiteral("x"));
+    search.ReplaceBox().setText(QStringLiteral("y2"));
+    search.MatchCase().setChecked(true);
+    search.WholeWord().setChecked(true);
+    QCOMPARE(search.ReplaceAll(), 3);
+    QCOMPARE(pane.toPlainText(), QStringLiteral("y2+1\nX*y2\nmax[y2]"));
+    pane.undo();
+    QCOMPARE(pane.toPlainText(), QStringLiteral("x+1\nX*x\nmax[x]"));
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DocumentPanesTest::findNextWithoutASearchOpensFind() {
+    DesktopHarness harness;
+    MathEditorWidget &pane = harness.Current()->TextPane();
+    TypeText(&pane, QStringLiteral("1+1"));
+    QTest::keyClick(&pane, Qt::Key_F3);
+    FindReplaceDialog &search = harness.Current()->Panes().Search();
+    QVERIFY(search.isVisible());
+    QCOMPARE(search.windowTitle(), QStringLiteral("Find"));
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
