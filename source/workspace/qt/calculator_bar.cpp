@@ -117,7 +117,6 @@ void InstallCalculatorBar(Workbench &workbench) {
     std::function<bool(int)> previous = workbench.clientTools;
     workbench.clientTools = [&workbench, bar, previous](int id) {
         if (id != command::kCalculator) return previous ? previous(id) : true;
-        workbench.PlaySound("QClick.wav");
         if (bar->isNull()) *bar = new CalculatorBar(workbench, workbench.Frame());
         CalculatorBar *window = bar->data();
         workbench.calculatorShowing = !workbench.calculatorShowing;

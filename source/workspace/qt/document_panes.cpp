@@ -12,6 +12,7 @@
 #include "compute_all.h"
 #include "delete_questions.h"
 #include "document_area.h"
+#include "document_font_dialog.h"
 #include "document_window.h"
 #include "editor_messages.h"
 #include "engine_list_pane.h"
@@ -283,10 +284,21 @@ bool DocumentPanes::CommandEnabler(int id, CommandState &state) {
         case command::kVariablesManager:
         case command::kFunctionManager:
         case command::kComputeAll:
+        case command::kChooseFont:
             return true;
         default:
             return false;
     }
+}
+
+void DocumentPanes::ChooseFont() {
+    auto *document = qobject_cast<DocumentWindow *>(parentWidget());
+    if (document == nullptr) return;
+    DocumentFontDialog dialog(document->Content().font, this);
+    RunDialog(dialog);
+    if (dialog.result() != QDialog::Accepted) return;
+    document->ApplyFont(dialog.Chosen());
+    if (dialog.ColorChosen()) workbench.Messages().Show(this, 24496, 24495, kBoxInformation);
 }
 
 bool DocumentPanes::CommandHandler(int id) {
@@ -310,6 +322,9 @@ bool DocumentPanes::CommandHandler(int id) {
             return true;
         case command::kComputeAll:
             ComputeAll();
+            return true;
+        case command::kChooseFont:
+            ChooseFont();
             return true;
         default:
             return false;

@@ -71,6 +71,8 @@ public:
 
     // Every line computed from the top as F4 computes it, in one undo step.
     void ComputeAll();
+    // The font dialog; the text and the lists take the font chosen.
+    void ChooseFont();
 
     bool CommandEnabler(int id, CommandState &state) override;
     bool CommandHandler(int id) override;

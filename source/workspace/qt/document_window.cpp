@@ -12,6 +12,7 @@
 #include "document_panes.h"
 #include "document_roster.h"
 #include "library_files.h"
+#include "list_window_rules.h"
 #include "math_editor_widget.h"
 #include "message_boxes.h"
 #include "parser.h"
@@ -140,6 +141,14 @@ bool DocumentWindow::Load(const std::string &file) {
     setWindowTitle(Caption());
     setAccessibleName(Caption());
     return true;
+}
+
+void DocumentWindow::ApplyFont(const DocumentFont &font) {
+    content.font = font;
+    textPane->setFont(qfont_of(content.font));
+    panes->Refresh(ListEvent::PaneOpens);
+    settingsChanged = true;
+    emit stateChanged();
 }
 
 DocumentChanges DocumentWindow::Changes() const {

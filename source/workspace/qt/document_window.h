@@ -42,6 +42,10 @@ public:
     Parser &Engine() { return *parser; }
     DocumentContent &Content() { return content; }
 
+    // A font chosen for the document: the text and its lists take it, and the document's
+    // settings count as changed.
+    void ApplyFont(const DocumentFont &font);
+
     DocumentChanges Changes() const;
     bool IsDirty() const { return document_dirty(Changes()); }
     // What the document is busy with; nothing computes yet, so this stays idle until the

@@ -89,7 +89,6 @@ std::span<const PopupItem> PopupOf(ListKind kind) {
 
 // Show Incrementals holds for the whole program: every open document follows it.
 void ToggleShowIncrementals(Workbench &workbench) {
-    workbench.PlaySound("QClick.wav");
     workbench.showIncrementals = !workbench.showIncrementals;
     workbench.Settings().Write(settings::kIncrementalVariables, workbench.showIncrementals);
     MainFrame *frame = workbench.Frame();

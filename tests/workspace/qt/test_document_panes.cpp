@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
+#include <QFontDialog>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QSplitter>
@@ -17,6 +18,7 @@
 #include "command_table.h"
 #include "desktop_harness.h"
 #include "document_area.h"
+#include "document_font_dialog.h"
 #include "document_panes.h"
 #include "document_window.h"
 #include "engine_list_pane.h"
@@ -92,6 +94,8 @@ private slots:
     void findHonoursCaseWordAndDirection();
     void replaceAllIsOneUndoStep();
     void findNextWithoutASearchOpensFind();
+    void aColouredFontIsToldAndStaysBlack();
+    void showIncrementalsActsOnEveryDocument();
     void screenshotOfADocumentWithListsAndCalculator();
 };
 
@@ -388,6 +392,47 @@ void DocumentPanesTest::findNextWithoutASearchOpensFind() {
     FindReplaceDialog &search = harness.Current()->Panes().Search();
     QVERIFY(search.isVisible());
     QCOMPARE(search.windowTitle(), QStringLiteral("Find"));
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DocumentPanesTest::aColouredFontIsToldAndStaysBlack() {
+    DesktopHarness harness;
+    harness.Bench().runDialog = [](QDialog &dialog) {
+        auto *fonts = qobject_cast<DocumentFontDialog *>(&dialog);
+        QVERIFY(fonts != nullptr);
+        QFont chosen(QStringLiteral("Liberation Mono"));
+        chosen.setPixelSize(17);
+        chosen.setItalic(true);
+        fonts->Chooser().setCurrentFont(chosen);
+        fonts->ColorBox().setCurrentIndex(9);
+        fonts->accept();
+    };
+    DocumentWindow *document = harness.Current();
+    QVERIFY(!document->IsDirty());
+    harness.boxes.Expect(QStringLiteral("Sorry, Colored Text Is Not Supported"), kIdOk);
+    QVERIFY(harness.Bench().Router().Execute(command::kChooseFont));
+    const DocumentFont &font = document->Content().font;
+    QCOMPARE(font.FaceName, std::string("Liberation Mono"));
+    QCOMPARE(font.Height, -17);
+    QCOMPARE(font.Italic, 1);
+    QVERIFY(font.Color == TColor::Black);
+    QVERIFY(document->IsDirty());
+    QCOMPARE(document->Panes().VariablesList().font().family(), QStringLiteral("Liberation Mono"));
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DocumentPanesTest::showIncrementalsActsOnEveryDocument() {
+    DesktopHarness harness;
+    harness.Client().NewDocument();
+    QCOMPARE(harness.Client().Count(), 2);
+    const bool before = harness.Bench().showIncrementals;
+    EngineListPane &variables = harness.Current()->Panes().VariablesList();
+    variables.setFocus();
+    QVERIFY(variables.CommandHandler(24375));
+    QCOMPARE(harness.Bench().showIncrementals, !before);
+    for (int index = 0; index < harness.Client().Count(); ++index)
+        QCOMPARE(harness.Client().At(index)->Engine().show_incrementals, !before);
+    QCOMPARE(harness.Bench().Settings().IncrementalVariables(), !before);
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
