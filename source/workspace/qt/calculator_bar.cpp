@@ -110,19 +110,67 @@ void CalculatorBar::showEvent(QShowEvent *event) {
 void CalculatorBar::closeEvent(QCloseEvent *event) {
     workbench.calculatorShowing = false;
     QWidget::closeEvent(event);
+    if (event->spontaneous()) emit closedByUser();
 }
 
+namespace {
+
+// The one bar of the program, made when first shown. Closed with its close box it stays
+// closed for the run, even when a first document comes again.
+class CalculatorBarKeeper : public QObject {
+public:
+    explicit CalculatorBarKeeper(Workbench &owner) : QObject(&owner), workbench(owner) {}
+
+    void SetShowing(bool show) {
+        if (show && bar.isNull()) {
+            bar = new CalculatorBar(workbench, workbench.Frame());
+            connect(bar, &CalculatorBar::closedByUser, this, [this] { closedByUser = true; });
+        }
+        workbench.calculatorShowing = show;
+        if (!bar.isNull()) bar->setVisible(show);
+    }
+
+    void DocumentOpened() {
+        MainFrame *frame = workbench.Frame();
+        if (frame == nullptr) return;
+        DocumentArea *client = frame->Client();
+        if (!watching) {
+            watching = true;
+            // The last document takes the bar with it.
+            connect(client, &DocumentArea::documentsChanged, this, [this, client] {
+                if (client->Count() == 0 && workbench.calculatorShowing) SetShowing(false);
+            });
+        }
+        if (client->Count() == 0 && !closedByUser && !workbench.calculatorShowing &&
+            workbench.Settings().Read(settings::kShowCalcBar))
+            SetShowing(true);
+    }
+
+    QPointer<CalculatorBar> bar;
+    bool closedByUser = false;
+
+private:
+    Workbench &workbench;
+    bool watching = false;
+};
+
+}  // namespace
+
 void InstallCalculatorBar(Workbench &workbench) {
-    auto bar = std::make_shared<QPointer<CalculatorBar>>();
+    auto *keeper = new CalculatorBarKeeper(workbench);
     std::function<bool(int)> previous = workbench.clientTools;
-    workbench.clientTools = [&workbench, bar, previous](int id) {
+    workbench.clientTools = [&workbench, keeper, previous](int id) {
         if (id != command::kCalculator) return previous ? previous(id) : true;
-        if (bar->isNull()) *bar = new CalculatorBar(workbench, workbench.Frame());
-        CalculatorBar *window = bar->data();
-        workbench.calculatorShowing = !workbench.calculatorShowing;
-        window->setVisible(workbench.calculatorShowing);
+        keeper->closedByUser = false;
+        keeper->SetShowing(!workbench.calculatorShowing);
         return true;
     };
+}
+
+void CalculatorBarDocumentOpened(Workbench &workbench) {
+    if (auto *keeper =
+            workbench.findChild<CalculatorBarKeeper *>(QString(), Qt::FindDirectChildrenOnly))
+        keeper->DocumentOpened();
 }
 
 }  // namespace quindar

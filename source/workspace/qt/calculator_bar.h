@@ -25,6 +25,10 @@ public:
     // Carries out a key on the current document, as a click does.
     void Press(const CalculatorKey &key);
 
+signals:
+    // The close box was used: the bar stays closed until the command shows it.
+    void closedByUser();
+
 protected:
     void closeEvent(QCloseEvent *event) override;
 
@@ -36,5 +40,7 @@ private:
 
 // Makes the Calculator command show and hide the bar; the bar belongs to the main window.
 void InstallCalculatorBar(Workbench &workbench);
+// A document was made: the first one brings the bar, as the options say.
+void CalculatorBarDocumentOpened(Workbench &workbench);
 
 }  // namespace quindar

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <cctype>
 
+#include "calculator_bar.h"
 #include "calculator_operations.h"
 #include "command_table.h"
 #include "compute_all.h"
@@ -96,6 +97,7 @@ DocumentPanes::DocumentPanes(Workbench &owner, MathEditorWidget &textPane, Parse
     editor.UpdateFunListWindow = [this] { functionsList->Refill(); };
     Refresh(ListEvent::PaneOpens);
 
+    CalculatorBarDocumentOpened(workbench);
     // A document taking the focus shows its own declarations.
     if (MainFrame *frame = workbench.Frame()) {
         connect(frame->Client(), &DocumentArea::currentDocumentChanged, this, [this, frame] {

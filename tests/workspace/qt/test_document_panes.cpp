@@ -292,19 +292,36 @@ void DocumentPanesTest::calculatorKeyActsOnTheEditorWithoutFocus() {
     MathEditorWidget &pane = harness.Current()->TextPane();
     TypeText(&pane, QStringLiteral("x+1"));
     pane.moveCursor(QTextCursor::StartOfLine);
-    QVERIFY(harness.Bench().Router().Execute(command::kCalculator));
+    // The first document brings the bar, as the options say by default.
     CalculatorBar *bar = Bar(harness);
     QVERIFY(bar != nullptr);
     QVERIFY(bar->isVisible());
-    QVERIFY(bar->testAttribute(Qt::WA_ShowWithoutActivating));
-    QCOMPARE(bar->findChildren<QToolButton *>().size(), 100);
-    QToolButton *sine = bar->Button(KeyWithFace("SIN").id);
-    QVERIFY(sine != nullptr);
-    QCOMPARE(sine->focusPolicy(), Qt::NoFocus);
-    QTest::mouseClick(sine, Qt::LeftButton);
-    QCOMPARE(pane.toPlainText(), QStringLiteral("SIN[x+1]"));
     QVERIFY(harness.Bench().calculatorShowing);
+    QVERIFY(bar->testAttribute(Qt::WA_ShowWithoutActivating));
+    QVERIFY(bar->windowFlags().testFlag(Qt::Tool));
+    QCOMPARE(bar->findChildren<QToolButton *>().size(), 100);
+    for (const CalculatorKey &key : CalculatorKeys()) {
+        QToolButton *button = bar->Button(key.id);
+        QVERIFY(button != nullptr);
+        QCOMPARE(button->focusPolicy(), Qt::NoFocus);
+        QVERIFY(!button->accessibleName().isEmpty());
+    }
+    QTest::mouseClick(bar->Button(KeyWithFace("SIN").id), Qt::LeftButton);
+    QCOMPARE(pane.toPlainText(), QStringLiteral("SIN[x+1]"));
+    QTest::mouseClick(bar->Button(KeyWithFace("x²").id), Qt::LeftButton);
+    QCOMPARE(pane.toPlainText(), QStringLiteral("SIN[x+1]^2"));
+
+    // The command hides and shows it.
     QVERIFY(harness.Bench().Router().Execute(command::kCalculator));
+    QVERIFY(!bar->isVisible());
+    QVERIFY(!harness.Bench().Router().State(command::kCalculator).checked);
+    QVERIFY(harness.Bench().Router().Execute(command::kCalculator));
+    QVERIFY(bar->isVisible());
+    QVERIFY(harness.Bench().Router().State(command::kCalculator).checked);
+    // The last document takes it along.
+    harness.boxes.Expect(QStringLiteral("Do you want to save the changes?"), kIdNo);
+    QVERIFY(harness.Client().CloseAllDocuments());
+    QVERIFY(!harness.Bench().calculatorShowing);
     QVERIFY(!bar->isVisible());
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
@@ -444,7 +461,6 @@ void DocumentPanesTest::screenshotOfADocumentWithListsAndCalculator() {
     MathEditorWidget &pane = harness.Current()->TextPane();
     TypeText(&pane, QStringLiteral("r = 2\narea = PI*r^2\nF[x] = x^2+r\nF[3]\n"));
     harness.Client().activeSubWindow()->showMaximized();
-    QVERIFY(harness.Bench().Router().Execute(command::kCalculator));
     QCoreApplication::processEvents();
     const QString folder = QStringLiteral(QUINDAR_BUILD_DIR "screens");
     QDir().mkpath(folder);
