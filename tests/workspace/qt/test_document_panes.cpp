@@ -2,10 +2,12 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 // A document's panes at work: Compute All, the Variables and Functions lists with their
 // Delete key and questions, the two managers, the calculator bar and the lists' placement.
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
 #include <QFontDialog>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QSplitter>
@@ -85,11 +87,13 @@ private slots:
     void deleteKeyOnRowsTwoAndThreeDeletesThoseTwo();
     void variableUsedInAFunctionIsAskedAbout();
     void popupCommandsNeedOneSelectedLine();
+    void headerClickAndDoubleClickOpenTheManager();
     void variablesManagerRefusesThenAccepts();
     void functionManagerRefusesThenAccepts();
     void enterNeverClosesAManager();
     void typingAPrefixSelectsTheEntry();
     void calculatorKeyActsOnTheEditorWithoutFocus();
+    void calculatorKeyKeepsTheFocusInTheEditor();
     void listsMoveToTheTopAndBackKeepingTheText();
     void findHonoursCaseWordAndDirection();
     void replaceAllIsOneUndoStep();
@@ -192,6 +196,31 @@ void DocumentPanesTest::popupCommandsNeedOneSelectedLine() {
     // Insert puts the name at the caret.
     QVERIFY(variables.CommandHandler(31579));
     QVERIFY(harness.Current()->TextPane().toPlainText().endsWith(QStringLiteral("\nb")));
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DocumentPanesTest::headerClickAndDoubleClickOpenTheManager() {
+    DesktopHarness harness;
+    TypeText(&harness.Current()->TextPane(), QStringLiteral("a = 1\nb = 2\nQ[x] = x+b\n"));
+    QStringList opened;
+    ScriptManagers(harness, [&opened](ManagerDialog &manager) {
+        opened << manager.windowTitle() + QStringLiteral(": ") + manager.NameBox().currentText() +
+                      QStringLiteral(" = ") + manager.ValueBox().text();
+    });
+    DocumentPanes &panes = harness.Current()->Panes();
+    EngineListPane &variables = panes.VariablesList();
+    // No selection: the manager opens empty; one selected line: with its entry.
+    emit variables.header()->sectionClicked(0);
+    SelectRows(variables, {1});
+    emit variables.header()->sectionClicked(0);
+    const QRect row = variables.visualItemRect(variables.topLevelItem(0));
+    QTest::mouseDClick(variables.viewport(), Qt::LeftButton, {}, row.center());
+    QVERIFY(!variables.openedByDoubleClick);
+    EngineListPane &functions = panes.FunctionsList();
+    SelectRows(functions, {0});
+    emit functions.header()->sectionClicked(0);
+    QCOMPARE(opened, (QStringList{"Variables Manager:  = ", "Variables Manager: b = 2",
+                                  "Variables Manager: a = 1", "Functions Manager: Q(x) = x+b"}));
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
@@ -323,6 +352,32 @@ void DocumentPanesTest::calculatorKeyActsOnTheEditorWithoutFocus() {
     QVERIFY(harness.Client().CloseAllDocuments());
     QVERIFY(!harness.Bench().calculatorShowing);
     QVERIFY(!bar->isVisible());
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DocumentPanesTest::calculatorKeyKeepsTheFocusInTheEditor() {
+    if (QGuiApplication::platformName() != QStringLiteral("xcb"))
+        QSKIP("activation and focus need a display; run under xvfb-run with QT_QPA_PLATFORM=xcb");
+    DesktopHarness harness;
+    MainFrame &frame = harness.Frame();
+    frame.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&frame));
+    frame.activateWindow();
+    MathEditorWidget &pane = harness.Current()->TextPane();
+    pane.setFocus();
+    QTRY_VERIFY(QApplication::activeWindow() == &frame);
+    QTRY_COMPARE(QApplication::focusWidget(), static_cast<QWidget *>(&pane));
+    CalculatorBar *bar = Bar(harness);
+    QVERIFY(bar != nullptr);
+    QVERIFY(QTest::qWaitForWindowExposed(bar));
+    QTest::mouseClick(bar->Button(KeyWithFace("7").id), Qt::LeftButton);
+    QTest::qWait(200);
+    QCOMPARE(pane.toPlainText(), QStringLiteral("7"));
+    QCOMPARE(QApplication::activeWindow(), static_cast<QWidget *>(&frame));
+    QCOMPARE(QApplication::focusWidget(), static_cast<QWidget *>(&pane));
+    // Typing goes on in the text.
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("+1"));
+    QCOMPARE(pane.toPlainText(), QStringLiteral("7+1"));
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
