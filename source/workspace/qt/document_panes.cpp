@@ -222,7 +222,8 @@ bool DocumentPanes::DeleteFunction(int index, bool update, bool ask) {
 }
 
 void DocumentPanes::DeleteAllVariables() {
-    if (workbench.Messages().Show(this, 31536, kVariablesManagerTitle, kBoxQuestionYesNo) != kIdYes)
+    if (workbench.Messages().Show(this, FromBytes(ManagerMessageText(31536)),
+                                  kVariablesManagerTitle, kBoxQuestionYesNo) != kIdYes)
         return;
     parser.delete_all_vars();
     Refresh(ListEvent::AllVariablesDeleted);
@@ -230,7 +231,8 @@ void DocumentPanes::DeleteAllVariables() {
 }
 
 void DocumentPanes::DeleteAllFunctions() {
-    if (workbench.Messages().Show(this, 30546, kFunctionManagerTitle, kBoxQuestionYesNo) != kIdYes)
+    if (workbench.Messages().Show(this, FromBytes(ManagerMessageText(30546)), kFunctionManagerTitle,
+                                  kBoxQuestionYesNo) != kIdYes)
         return;
     parser.delete_all_funcs();
     Refresh(ListEvent::AllFunctionsDeleted);

@@ -90,6 +90,8 @@ private slots:
     void headerClickAndDoubleClickOpenTheManager();
     void variablesManagerRefusesThenAccepts();
     void functionManagerRefusesThenAccepts();
+    void managerTellsWhatTheClosedListCannotShow();
+    void deleteAllAndInsertFromTheLists();
     void enterNeverClosesAManager();
     void typingAPrefixSelectsTheEntry();
     void calculatorKeyActsOnTheEditorWithoutFocus();
@@ -284,6 +286,68 @@ void DocumentPanesTest::functionManagerRefusesThenAccepts() {
     });
     QVERIFY(harness.Bench().Router().Execute(command::kFunctionManager));
     QCOMPARE(harness.Current()->Engine().functions.count(), 0);
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DocumentPanesTest::managerTellsWhatTheClosedListCannotShow() {
+    DesktopHarness harness;
+    QVERIFY(harness.Bench().Router().Execute(command::kVariablesList));
+    QVERIFY(!harness.Current()->Panes().VariablesListOpen());
+    ScriptManagers(harness, [&harness](ManagerDialog &manager) {
+        manager.NameBox().setEditText(QStringLiteral("  z"));
+        manager.ValueBox().setText(QStringLiteral("2*3"));
+        harness.boxes.Expect(QStringLiteral("Variable \"z\" has been added."), kIdOk);
+        manager.AddEdit();
+        manager.ValueBox().setText(QStringLiteral("8"));
+        harness.boxes.Expect(QStringLiteral("Variable \"z\" has been edited."), kIdOk);
+        manager.AddEdit();
+        // An empty value over an existing variable is refused twice over.
+        manager.ValueBox().clear();
+        harness.boxes.Expect(QStringLiteral("You have not entered a value for the variable!"),
+                             kIdOk);
+        harness.boxes.Expect(QStringLiteral("You have not entered a value for 'z'!"), kIdOk);
+        manager.AddEdit();
+        manager.NameBox().setEditText(QStringLiteral("nothing"));
+        harness.boxes.Expect(
+            QStringLiteral("'nothing' is not a defined variable and therefore can not be deleted!"),
+            kIdOk);
+        manager.Delete();
+        harness.boxes.Expect(
+            QStringLiteral("'nothing' is not a defined variable, do you still want"), kIdNo);
+        manager.Insert();
+    });
+    QVERIFY(harness.Bench().Router().Execute(command::kVariablesManager));
+    QCOMPARE(QString::fromUtf8(harness.Current()->Engine().get_var_value("z", -1)),
+             QStringLiteral("8"));
+    QCOMPARE(harness.Current()->TextPane().toPlainText(), QString());
+    // Opened again, the list shows the change.
+    QVERIFY(harness.Bench().Router().Execute(command::kVariablesList));
+    QCOMPARE(Rows(harness.Current()->Panes().VariablesList()), QStringList{"z = 8"});
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DocumentPanesTest::deleteAllAndInsertFromTheLists() {
+    DesktopHarness harness;
+    MathEditorWidget &pane = harness.Current()->TextPane();
+    TypeText(&pane, QStringLiteral("a = 1\nb = 2\nS[x,y] = x*y\n"));
+    DocumentPanes &panes = harness.Current()->Panes();
+    SelectRows(panes.FunctionsList(), {0});
+    // The brackets follow the option.
+    QVERIFY(panes.FunctionsList().CommandHandler(30591));
+    harness.Current()->Engine().use_square_brackets = true;
+    QVERIFY(panes.FunctionsList().CommandHandler(30591));
+    QVERIFY(pane.toPlainText().endsWith(QStringLiteral("\nS(x,y)S[x,y]")));
+    harness.boxes.Expect(QStringLiteral("Are you sure that you want to delete all the variables?"),
+                         kIdNo);
+    QVERIFY(panes.VariablesList().CommandHandler(31588));
+    QCOMPARE(panes.VariablesList().topLevelItemCount(), 2);
+    harness.boxes.Expect(QStringLiteral("Are you sure that you want to delete all the variables?"),
+                         kIdYes);
+    QVERIFY(panes.VariablesList().CommandHandler(31588));
+    QCOMPARE(panes.VariablesList().topLevelItemCount(), 0);
+    CommandState state;
+    QVERIFY(panes.VariablesList().CommandEnabler(31588, state));
+    QVERIFY(!state.enabled);
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
