@@ -585,6 +585,22 @@ void DocumentPanesTest::screenshotOfADocumentWithListsAndCalculator() {
     QDir().mkpath(folder);
     QVERIFY(frame.grab().save(folder + QStringLiteral("/document_with_lists.png")));
     QVERIFY(Bar(harness)->grab().save(folder + QStringLiteral("/calculator_bar.png")));
+    ScriptManagers(harness, [&folder](ManagerDialog &manager) {
+        manager.adjustSize();
+        QVERIFY(manager.grab().save(folder + QStringLiteral("/manager_") +
+                                    manager.windowTitle().section(QLatin1Char(' '), 0, 0) +
+                                    QStringLiteral(".png")));
+    });
+    SelectRows(harness.Current()->Panes().VariablesList(), {1});
+    harness.Current()->Panes().VariablesList().openedByDoubleClick = true;
+    harness.Current()->Panes().OpenVariableManager({});
+    harness.Current()->Panes().OpenFunctionManager("F[x]");
+    QVERIFY(harness.Bench().Router().Execute(command::kEditReplace));
+    QVERIFY(
+        harness.Current()->Panes().Search().grab().save(folder + QStringLiteral("/replace.png")));
+    QVERIFY(harness.Bench().Router().Execute(command::kListsTop));
+    QCoreApplication::processEvents();
+    QVERIFY(frame.grab().save(folder + QStringLiteral("/lists_on_top.png")));
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
