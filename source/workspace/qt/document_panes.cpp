@@ -5,7 +5,6 @@
 #include <QSplitter>
 #include <QTimer>
 #include <QVBoxLayout>
-#include <cctype>
 
 #include "calculator_bar.h"
 #include "calculator_operations.h"
@@ -25,6 +24,7 @@
 #include "math_editor_widget.h"
 #include "message_boxes.h"
 #include "parser.h"
+#include "variable_uses.h"
 #include "workbench.h"
 
 namespace quindar {
@@ -41,29 +41,6 @@ void SplitAt(QSplitter &splitter, double share) {
     const int whole = std::max(length, 400);
     const int first = static_cast<int>(whole * share);
     splitter.setSizes({first, whole - first});
-}
-
-// Whether a function's body names the variable as a whole word, or takes a parameter of
-// that name.
-bool FunctionUses(Parser &parser, int function, const std::string &name) {
-    for (const char *parameter = parser.get_func_variable(function, true);
-         parameter != nullptr && *parameter != '\0';
-         parameter = parser.get_func_variable(function, false))
-        if (name == parameter) return true;
-    const char *body = parser.get_func_value(function);
-    if (body == nullptr) return false;
-    const std::string_view text = body;
-    const auto isNamePart = [](char c) {
-        return std::isalnum(static_cast<unsigned char>(c)) != 0 || c == '_';
-    };
-    for (std::size_t at = text.find(name); at != std::string_view::npos;
-         at = text.find(name, at + 1)) {
-        const std::size_t end = at + name.size();
-        if ((at == 0 || !isNamePart(text[at - 1])) &&
-            (end == text.size() || !isNamePart(text[end])))
-            return true;
-    }
-    return false;
 }
 
 constexpr double kTextShare = 0.75;
@@ -188,9 +165,7 @@ bool DocumentPanes::DeleteVariable(int index, bool update, bool ask) {
     const char *found = parser.get_var_name(index);
     if (found == nullptr) return false;
     const std::string name = found;
-    std::optional<std::string> usingFunction;
-    for (int function = 0; function < parser.functions.count() && !usingFunction; ++function)
-        if (FunctionUses(parser, function, name)) usingFunction = parser.get_func_name(function);
+    const std::optional<std::string> usingFunction = FunctionUsingVariable(parser, name);
     if (const auto question = VariableDeleteQuestion(name, usingFunction, ask)) {
         const int answer = workbench.Messages().Show(this, FromBytes(question->text),
                                                      kVariablesManagerTitle, kBoxQuestionYesNo);
