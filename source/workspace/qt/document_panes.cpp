@@ -140,6 +140,8 @@ bool DocumentPanes::AddEditVariable(const std::string &name, const std::string &
     const std::string statement = value.empty() ? name : name + "=" + value;
     parser.assignment_made = false;
     parser.eval_exp(statement.c_str(), false, true);
+    // The engine told its failure itself; the next line starts clean.
+    parser.ClearLastError();
     if (!parser.assignment_made) return false;
     Refresh(ListEvent::VariableAddedOrEdited);
     workbench.PlaySound(kAddSound);
@@ -151,6 +153,7 @@ bool DocumentPanes::AddEditFunction(const std::string &name, const std::string &
     parser.assignment_made = false;
     parser.function_declared = false;
     parser.eval_exp(statement.c_str(), false, true);
+    parser.ClearLastError();
     if (!parser.function_declared) return false;
     if (parser.assignment_made) {
         Refresh(ListEvent::FunctionAndVariableAddedOrEdited);

@@ -214,12 +214,22 @@ void EngineListPane::contextMenuEvent(QContextMenuEvent *event) {
             continue;
         }
         QAction *action = menu.addAction(QString::fromLatin1(item.label));
-        const CommandState state = router.State(item.id);
+        // The list answers its own items even before the focus has reached it.
+        CommandState state;
+        const bool own = CommandEnabler(item.id, state);
+        if (!own) state = router.State(item.id);
         action->setEnabled(state.enabled);
         action->setCheckable(item.id == list_command::kShowIncrementals);
         action->setChecked(state.checked);
         const int id = item.id;
-        connect(action, &QAction::triggered, this, [&router, id] { router.Execute(id); });
+        connect(action, &QAction::triggered, this, [this, &router, id, own] {
+            if (!own) {
+                router.Execute(id);
+                return;
+            }
+            panes.Bench().PlaySound("QClick.wav");
+            CommandHandler(id);
+        });
     }
     menu.exec(event->globalPos());
 }

@@ -9,10 +9,12 @@
 #include <QFontDialog>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QMenu>
 #include <QRadioButton>
 #include <QSplitter>
 #include <QTest>
 #include <QTextBlock>
+#include <QTimer>
 #include <QToolButton>
 
 #include "calculator_bar.h"
@@ -87,6 +89,7 @@ private slots:
     void deleteKeyOnRowsTwoAndThreeDeletesThoseTwo();
     void variableUsedInAFunctionIsAskedAbout();
     void popupCommandsNeedOneSelectedLine();
+    void popupMenusListTheirCommands();
     void headerClickAndDoubleClickOpenTheManager();
     void variablesManagerRefusesThenAccepts();
     void functionManagerRefusesThenAccepts();
@@ -223,6 +226,43 @@ void DocumentPanesTest::headerClickAndDoubleClickOpenTheManager() {
     emit functions.header()->sectionClicked(0);
     QCOMPARE(opened, (QStringList{"Variables Manager:  = ", "Variables Manager: b = 2",
                                   "Variables Manager: a = 1", "Functions Manager: Q(x) = x+b"}));
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DocumentPanesTest::popupMenusListTheirCommands() {
+    DesktopHarness harness;
+    TypeText(&harness.Current()->TextPane(), QStringLiteral("a = 1\nb = 2\nW[x] = x\n"));
+    DocumentPanes &panes = harness.Current()->Panes();
+    const auto menuOf = [](EngineListPane &list) {
+        QStringList items;
+        QTimer::singleShot(0, [&items] {
+            auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+            if (menu == nullptr) return;
+            for (QAction *action : menu->actions()) {
+                if (action->isSeparator()) continue;
+                QString text = action->text();
+                if (!action->isEnabled()) text += QStringLiteral(" (off)");
+                if (action->isChecked()) text += QStringLiteral(" (on)");
+                items << text;
+            }
+            menu->close();
+        });
+        QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5),
+                                list.mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(list.viewport(), &event);
+        return items;
+    };
+    SelectRows(panes.VariablesList(), {0, 1});
+    QCOMPARE(menuOf(panes.VariablesList()),
+             (QStringList{"&Delete Variable... (off)", "Delete &All Variables...",
+                          "&Insert Variable (off)", "&Variables Manager...",
+                          "Precision/&Format... (off)", "&Show Incrementals (on)",
+                          "&Print Variables... (off)"}));
+    SelectRows(panes.FunctionsList(), {0});
+    QCOMPARE(menuOf(panes.FunctionsList()),
+             (QStringList{"&Delete Function...", "Delete &All Functions...", "&Insert Function",
+                          "&Function Manager...", "Function &Solver... (off)",
+                          "&Calculus Utility...", "&Print Functions... (off)"}));
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
