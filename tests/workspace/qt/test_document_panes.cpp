@@ -621,6 +621,13 @@ void DocumentPanesTest::screenshotOfADocumentWithListsAndCalculator() {
     TypeText(&pane, QStringLiteral("r = 2\narea = PI*r^2\nF[x] = x^2+r\nF[3]\n"));
     harness.Client().activeSubWindow()->showMaximized();
     QCoreApplication::processEvents();
+    // The text keeps three quarters of the width, the lists share the rest half and half.
+    DocumentPanes &panes = harness.Current()->Panes();
+    auto *outer = panes.findChild<QSplitter *>(QString(), Qt::FindDirectChildrenOnly);
+    const QList<int> widths = outer->sizes();
+    QVERIFY(std::abs(widths[0] * 1.0 / (widths[0] + widths[1]) - 0.75) < 0.02);
+    const int variablesHeight = panes.VariablesList().height();
+    QVERIFY(std::abs(variablesHeight - panes.FunctionsList().height()) <= 2);
     const QString folder = QStringLiteral(QUINDAR_BUILD_DIR "screens");
     QDir().mkpath(folder);
     QVERIFY(frame.grab().save(folder + QStringLiteral("/document_with_lists.png")));
