@@ -24,15 +24,12 @@
 #include "math_editor_widget.h"
 #include "message_boxes.h"
 #include "parser.h"
+#include "utf8_text.h"
 #include "variable_uses.h"
 #include "workbench.h"
 
 namespace quindar {
 namespace {
-
-QString FromBytes(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 // Splits a splitter's length so that the first pane keeps share of it.
 void SplitAt(QSplitter &splitter, double share) {

@@ -20,18 +20,11 @@
 #include "manager_messages.h"
 #include "message_boxes.h"
 #include "parser.h"
+#include "utf8_text.h"
 #include "workbench.h"
 
 namespace quindar {
 namespace {
-
-QString FromBytes(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-std::string ToBytes(const QString &text) {
-    return text.toUtf8().toStdString();
-}
 
 // What differs between the two managers.
 struct ManagerTraits {
