@@ -135,6 +135,7 @@ bool DocumentWindow::Load(const std::string &file) {
     path = file;
     textPane->setFont(qfont_of(content.font));
     textPane->SetDocumentText(content.text);
+    panes->Refresh(ListEvent::PaneOpens);
     // What loading declared is what the file holds.
     parser->vars_saved = true;
     parser->funcs_saved = true;

@@ -86,6 +86,7 @@ private slots:
     void computeAllFollowsAnEditedFirstLineInOneUndoStep();
     void computeAllReportsFailedLinesOnceAndKeepsThem();
     void variablesListShowsAComputedVariable();
+    void anOpenedDocumentListsItsDeclarations();
     void deleteKeyOnRowsTwoAndThreeDeletesThoseTwo();
     void variableUsedInAFunctionIsAskedAbout();
     void popupCommandsNeedOneSelectedLine();
@@ -150,6 +151,18 @@ void DocumentPanesTest::variablesListShowsAComputedVariable() {
     QCOMPARE(variables.headerItem()->text(0), QStringLiteral("Variables"));
     QCOMPARE(harness.Current()->Panes().FunctionsList().headerItem()->text(0),
              QStringLiteral("Functions"));
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DocumentPanesTest::anOpenedDocumentListsItsDeclarations() {
+    DesktopHarness harness;
+    DocumentWindow *opened =
+        harness.Client().OpenFile(QStringLiteral(QUINDAR_TEST_DATA_DIR "sample.qnd"));
+    QVERIFY(opened != nullptr);
+    QCOMPARE(Rows(opened->Panes().VariablesList()), QStringList{"x = 5"});
+    QCOMPARE(Rows(opened->Panes().FunctionsList()), QStringList{"f[t] = t^2+x"});
+    // Each document has its own engine and lists.
+    QCOMPARE(harness.Client().At(0)->Panes().VariablesList().topLevelItemCount(), 0);
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
