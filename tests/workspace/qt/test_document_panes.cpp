@@ -87,6 +87,7 @@ private slots:
     void computeAllReportsFailedLinesOnceAndKeepsThem();
     void variablesListShowsAComputedVariable();
     void anOpenedDocumentListsItsDeclarations();
+    void aDocumentTakingTheFocusRefillsItsLists();
     void deleteKeyOnRowsTwoAndThreeDeletesThoseTwo();
     void variableUsedInAFunctionIsAskedAbout();
     void popupCommandsNeedOneSelectedLine();
@@ -163,6 +164,20 @@ void DocumentPanesTest::anOpenedDocumentListsItsDeclarations() {
     QCOMPARE(Rows(opened->Panes().FunctionsList()), QStringList{"f[t] = t^2+x"});
     // Each document has its own engine and lists.
     QCOMPARE(harness.Client().At(0)->Panes().VariablesList().topLevelItemCount(), 0);
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DocumentPanesTest::aDocumentTakingTheFocusRefillsItsLists() {
+    DesktopHarness harness;
+    DocumentWindow *first = harness.Current();
+    harness.Client().NewDocument();
+    QVERIFY(harness.Current() != first);
+    // Declared behind the lists' back: only one of their events shows it.
+    first->Engine().eval_exp("hidden = 3", true, false);
+    QCOMPARE(first->Panes().VariablesList().topLevelItemCount(), 0);
+    harness.Client().Activate(0);
+    QCOMPARE(harness.Current(), first);
+    QCOMPARE(Rows(first->Panes().VariablesList()), QStringList{"hidden = 3"});
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
