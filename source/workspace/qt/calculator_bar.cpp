@@ -138,7 +138,8 @@ public:
             watching = true;
             // The last document takes the bar with it.
             connect(client, &DocumentArea::documentsChanged, this, [this, client] {
-                if (client->Count() == 0 && workbench.calculatorShowing) SetShowing(false);
+                if (!workbench.closing && client->Count() == 0 && workbench.calculatorShowing)
+                    SetShowing(false);
             });
         }
         if (client->Count() == 0 && !closedByUser && !workbench.calculatorShowing &&

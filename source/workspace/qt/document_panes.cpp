@@ -74,8 +74,11 @@ DocumentPanes::DocumentPanes(Workbench &owner, MathEditorWidget &textPane, Parse
     CalculatorBarDocumentOpened(workbench);
     // A document taking the focus shows its own declarations.
     if (MainFrame *frame = workbench.Frame()) {
-        connect(frame->Client(), &DocumentArea::currentDocumentChanged, this, [this, frame] {
-            if (static_cast<QWidget *>(frame->Client()->Current()) == parentWidget())
+        DocumentArea *client = frame->Client();
+        connect(client, &DocumentArea::currentDocumentChanged, this, [this, client] {
+            // The windows going down at the end of a run refill nothing.
+            if (workbench.closing) return;
+            if (static_cast<QWidget *>(client->Current()) == parentWidget())
                 Refresh(ListEvent::ChildTakesFocus);
         });
     }
