@@ -52,6 +52,7 @@ constexpr CommandInfo kCommands[] = {
     {21553, "Function &Library...", 19422, 0, true, nullptr, true},
     {21817, "&Calculator...", 19489, 0, true, nullptr, true},
     {25130, "C&alculus...", 19486, 19487, true, nullptr, true},
+    {21830, "Co&mpute All", 0, 0, false, "Ctrl+F9", false},
     {20600, "&Graph Setup...", 19447, 0, true, nullptr, true},
     {20619, "&Open Graph From File", 19452, 0, false, nullptr, true},
     {20618, "&Save Graph To File", 19453, 0, false, nullptr, true},
@@ -87,9 +88,9 @@ constexpr int kEditMenu[] = {kEditUndo,  kSeparator, kEditCut,   kEditCopy,
 constexpr int kSearchMenu[] = {kEditFind, kEditReplace, kEditFindNext};
 constexpr int kSetupMenu[] = {kSound,     kShowToolBar, kShowStatusBar, kShowHints,
                               kSeparator, kOptions,     kChooseFont};
-constexpr int kUtilitiesMenu[] = {kVariablesList,   kVariablesManager, kSeparator,
-                                  kFunctionsList,   kFunctionManager,  kSeparator,
-                                  kFunctionLibrary, kCalculator,       kCalculus};
+constexpr int kUtilitiesMenu[] = {
+    kVariablesList,   kVariablesManager, kSeparator, kFunctionsList, kFunctionManager, kSeparator,
+    kFunctionLibrary, kCalculator,       kCalculus,  kSeparator,     kComputeAll};
 constexpr int kMarginsSubmenu = -1;
 constexpr int kGraphMenu[] = {
     kGraphSetup,       kSeparator,    kOpenGraphFile,         kSaveGraphFile,

@@ -44,7 +44,7 @@ inline constexpr int kSound = 24382, kShowToolBar = 24381, kShowStatusBar = 3204
 // Utilities.
 inline constexpr int kVariablesList = 31581, kVariablesManager = 31589, kFunctionsList = 30581,
                      kFunctionManager = 30589, kFunctionLibrary = 21553, kCalculator = 21817,
-                     kCalculus = 25130;
+                     kCalculus = 25130, kComputeAll = 21830;
 // Graph.
 inline constexpr int kGraphSetup = 20600, kOpenGraphFile = 20619, kSaveGraphFile = 20618,
                      kCopyGraph = 20630, kSetDefaultOrientation = 20631,

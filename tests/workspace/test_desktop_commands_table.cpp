@@ -15,8 +15,9 @@ TEST(CommandTable, IdsAreUniqueAndEveryMenuItemIsACommand) {
     std::set<int> ids;
     for (const CommandInfo &command : command_table())
         EXPECT_TRUE(ids.insert(command.id).second) << command.id;
-    // 63 items in the menus (Export to PDF among them) and the four of the Margins pop-up.
-    EXPECT_EQ(ids.size(), 67u);
+    // 62 items in the menus (Export to PDF among them), Compute All, and the four of the
+    // Margins pop-up.
+    EXPECT_EQ(ids.size(), 68u);
     std::size_t items = 0;
     for (const MenuSpec &menu : menu_bar()) {
         for (const int item : menu.items) {
@@ -52,6 +53,7 @@ constexpr CommandCase kCommands[] = {
     {command::kEditFindNext, "Find &Next\tF3", 19419, 0, "F3"},
     {command::kFunctionManager, "F&unction Manager...", 19409, 19444, nullptr},
     {command::kCalculus, "C&alculus...", 19486, 19487, nullptr},
+    {command::kComputeAll, "Co&mpute All", 0, 0, "Ctrl+F9"},
     {command::kHelpKey, "&Key Word &Search", 0, 0, nullptr},
     {command::kGridLines, "Grid Lines", 19480, 0, nullptr},
     {command::kSaveAsDefaultMargins, "&Save As Default", 19485, 0, nullptr},

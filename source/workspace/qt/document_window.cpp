@@ -9,8 +9,10 @@
 #include "command_table.h"
 #include "document_file.h"
 #include "document_font.h"
+#include "document_panes.h"
 #include "document_roster.h"
 #include "library_files.h"
+#include "list_window_rules.h"
 #include "math_editor_widget.h"
 #include "message_boxes.h"
 #include "parser.h"
@@ -53,6 +55,7 @@ constexpr PaneCommand kPaneCommands[] = {
     {command::kVariablesManager, true},
     {command::kFunctionManager, true},
     {command::kCalculus, true},
+    {command::kComputeAll, true},
     {command::kChooseFont, true},
     {command::kOpenGraphFile, true},
     {command::kGraphSetup, false},
@@ -111,7 +114,8 @@ DocumentWindow::DocumentWindow(Workbench &owner, int documentNumber, QWidget *pa
     textPane->setFont(qfont_of(content.font));
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(textPane);
+    panes = new DocumentPanes(workbench, *textPane, *parser, boxes, this);
+    layout->addWidget(panes);
     setFocusProxy(textPane);
     textPane->viewport()->installEventFilter(this);
     setAccessibleName(Caption());
@@ -148,12 +152,21 @@ bool DocumentWindow::Load(const std::string &file) {
     path = file;
     textPane->setFont(qfont_of(content.font));
     textPane->SetDocumentText(content.text);
+    panes->Refresh(ListEvent::PaneOpens);
     // What loading declared is what the file holds.
     parser->vars_saved = true;
     parser->funcs_saved = true;
     setWindowTitle(Caption());
     setAccessibleName(Caption());
     return true;
+}
+
+void DocumentWindow::ApplyFont(const DocumentFont &font) {
+    content.font = font;
+    textPane->setFont(qfont_of(content.font));
+    panes->Refresh(ListEvent::PaneOpens);
+    settingsChanged = true;
+    emit stateChanged();
 }
 
 DocumentChanges DocumentWindow::Changes() const {
@@ -241,34 +254,14 @@ bool DocumentWindow::CanClose() {
     return allowed;
 }
 
-void DocumentWindow::ChooseFont() {
-    QFont font = qfont_of(content.font);
-    if (!workbench.chooseFont(this, font)) return;
-    content.font = document_font_of(font, content.font);
-    textPane->setFont(qfont_of(content.font));
-    settingsChanged = true;
-    emit stateChanged();
-}
-
 bool DocumentWindow::CommandEnabler(int id, CommandState &state) {
+    if (panes->CommandEnabler(id, state)) return true;
     switch (id) {
         case command::kFileSave:
             state.enabled = IsDirty();
             return true;
         case command::kFileSaveAs:
         case command::kFileClose:
-            return true;
-        case command::kVariablesList:
-            state.checked = variablesListOpen;
-            return true;
-        case command::kFunctionsList:
-            state.checked = functionsListOpen;
-            return true;
-        case command::kListsRight:
-            state.checked = listsRight;
-            return true;
-        case command::kListsTop:
-            state.checked = !listsRight;
             return true;
         case command::kShowMathWindow:
             state.checked = true;
@@ -289,6 +282,7 @@ bool DocumentWindow::CommandEnabler(int id, CommandState &state) {
 }
 
 bool DocumentWindow::CommandHandler(int id) {
+    if (panes->CommandHandler(id)) return true;
     switch (id) {
         case command::kFileSave:
             Save();
@@ -298,21 +292,6 @@ bool DocumentWindow::CommandHandler(int id) {
             return true;
         case command::kFileClose:
             workbench.CloseDocument(this);
-            return true;
-        case command::kVariablesList:
-            if (workbench.RunDocumentTool(*this, id)) variablesListOpen = !variablesListOpen;
-            return true;
-        case command::kFunctionsList:
-            if (workbench.RunDocumentTool(*this, id)) functionsListOpen = !functionsListOpen;
-            return true;
-        case command::kListsRight:
-            if (workbench.RunDocumentTool(*this, id)) listsRight = true;
-            return true;
-        case command::kListsTop:
-            if (workbench.RunDocumentTool(*this, id)) listsRight = false;
-            return true;
-        case command::kChooseFont:
-            ChooseFont();
             return true;
         default:
             break;

@@ -18,6 +18,7 @@
 
 namespace quindar {
 
+class DocumentPanes;
 class MathEditorWidget;
 class Parser;
 class Workbench;
@@ -37,8 +38,13 @@ public:
     QString Caption() const;
 
     MathEditorWidget &TextPane() { return *textPane; }
+    DocumentPanes &Panes() { return *panes; }
     Parser &Engine() { return *parser; }
     DocumentContent &Content() { return content; }
+
+    // A font chosen for the document: the text and its lists take it, and the document's
+    // settings count as changed.
+    void ApplyFont(const DocumentFont &font);
 
     DocumentChanges Changes() const;
     bool IsDirty() const { return document_dirty(Changes()); }
@@ -74,8 +80,6 @@ protected:
 
 private:
     bool WriteTo(const std::string &target);
-    // The font dialog over the document's font; a new font makes the document dirty.
-    void ChooseFont();
     void ClearChangeFlags();
 
     Workbench &workbench;
@@ -84,16 +88,11 @@ private:
     std::unique_ptr<Parser> parser;
     DocumentContent content;
     MathEditorWidget *textPane = nullptr;
+    DocumentPanes *panes = nullptr;
     bool graphsChanged = false;
     bool settingsChanged = false;
     bool textChanged = false;
     bool closeChecked = false;
-    // Whether the list panes stand open, and where. The panes come with their own windows
-    // through the document tools; a state changes only when a tool took the command, so no
-    // check mark stands for a pane that is not there.
-    bool variablesListOpen = false;
-    bool functionsListOpen = false;
-    bool listsRight = true;
 };
 
 }  // namespace quindar

@@ -8,13 +8,13 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QFontDialog>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QProcess>
 
 #include "calculus_tools.h"
 #include "client_tools.h"
+#include "calculator_bar.h"
 #include "command_table.h"
 #include "document_area.h"
 #include "document_close_rules.h"
@@ -74,13 +74,6 @@ Workbench::Workbench(AppServices &appServices, DesktopFolders desktopFolders)
     InitIconResources();
     chooseOpenFiles = DialogOpenFiles;
     chooseSaveFile = DialogSaveFile;
-    chooseFont = [](QWidget *parent, QFont &font) {
-        bool ok = false;
-        const QFont chosen = QFontDialog::getFont(&ok, font, parent, QStringLiteral("Choose Font"),
-                                                  QFontDialog::DontUseNativeDialog);
-        if (ok) font = chosen;
-        return ok;
-    };
     startProcess = [](const QString &program, const QStringList &arguments) {
         return QProcess::startDetached(program, arguments);
     };
@@ -105,6 +98,7 @@ Workbench::Workbench(AppServices &appServices, DesktopFolders desktopFolders)
         QColorDialog::setCustomColor(n - 1, QColor(color.Red(), color.Green(), color.Blue()));
     }
     InstallCalculusTools(*this);
+    InstallCalculatorBar(*this);
 }
 
 Workbench::~Workbench() {

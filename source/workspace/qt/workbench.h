@@ -78,8 +78,6 @@ public:
     // theirs in place.
     std::function<bool(const QString &program, const QStringList &arguments)> startProcess;
     std::function<void(QDialog &dialog)> runDialog;
-    // The font dialog: true with the chosen font in font.
-    std::function<bool(QWidget *parent, QFont &font)> chooseFont;
     QString ChooseSaveFile(QWidget *parent, const QString &current);
 
     // Opens files dropped, chosen from the recent files, or handed over by a later start.

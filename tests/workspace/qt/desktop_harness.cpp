@@ -69,12 +69,6 @@ DesktopHarness::DesktopHarness(const std::vector<std::string> &words,
         return startSucceeds;
     };
     workbench->runDialog = [this](QDialog &dialog) { dialogsRun << dialog.windowTitle(); };
-    workbench->chooseFont = [this](QWidget *, QFont &font) {
-        dialogsRun << QStringLiteral("Choose Font");
-        if (!nextFont) return false;
-        font = *std::exchange(nextFont, std::nullopt);
-        return true;
-    };
     frame = workbench->Start(words);
     frame->resize(1280, 800);
     frame->show();

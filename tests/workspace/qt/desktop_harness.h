@@ -84,8 +84,6 @@ public:
     QStringList started;
     QStringList dialogsRun;
     bool startSucceeds = true;
-    // The font the font dialog chooses next; none: the dialog is cancelled.
-    std::optional<QFont> nextFont;
 
     ScriptedBoxes boxes;
     RecordingServices services;

@@ -4,6 +4,7 @@
 // window limit, numbering, the close questions, damaged files.
 #include <QComboBox>
 #include <QFile>
+#include <QFontDialog>
 #include <QLabel>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -13,6 +14,7 @@
 #include "command_table.h"
 #include "desktop_harness.h"
 #include "document_area.h"
+#include "document_font_dialog.h"
 #include "document_window.h"
 #include "find_replace_dialog.h"
 #include "main_frame.h"
@@ -178,13 +180,18 @@ void DesktopDocuments::aNewFontIsSavedWithTheDocument() {
     QCOMPARE(document->TextPane().font().family(), QStringLiteral("Arial"));
     QCOMPARE(document->TextPane().font().pixelSize(), 13);
     QCOMPARE(document->TextPane().font().weight(), QFont::Bold);
-    // Cancelled: nothing changes.
+    // Cancelled (the harness runs no dialog): nothing changes.
     QVERIFY(harness.Bench().Router().Execute(command::kChooseFont));
     QVERIFY(!document->IsDirty());
-    QFont chosen(QStringLiteral("Liberation Mono"));
-    chosen.setPixelSize(16);
-    chosen.setItalic(true);
-    harness.nextFont = chosen;
+    harness.Bench().runDialog = [](QDialog &dialog) {
+        auto *fonts = qobject_cast<DocumentFontDialog *>(&dialog);
+        QVERIFY(fonts != nullptr);
+        QFont chosen(QStringLiteral("Liberation Mono"));
+        chosen.setPixelSize(16);
+        chosen.setItalic(true);
+        fonts->Chooser().setCurrentFont(chosen);
+        fonts->accept();
+    };
     QVERIFY(harness.Bench().Router().Execute(command::kChooseFont));
     QVERIFY(document->IsDirty());
     QCOMPARE(document->TextPane().font().family(), QStringLiteral("Liberation Mono"));
