@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 // The numeric methods on a mapped graph expression: one integral, one derivative of each
-// order and one root, with the samples each takes per second.
+// order and one root, with the samples each takes per second; and the utilities' runs: a
+// triple integral at two slider positions and a differentiation table.
 #include <benchmark/benchmark.h>
 
 #include "calculus_runs.h"
+#include "differentiation_run.h"
+#include "integration_run.h"
 #include "parser.h"
+#include "run_host.h"
 
 namespace {
 
@@ -59,5 +63,58 @@ void BM_root(benchmark::State &state) {
         benchmark::DoNotOptimize(quindar::calculus::FindRoot(parser, request).value);
 }
 BENCHMARK(BM_root)->Unit(benchmark::kMicrosecond);
+
+// A run's window that only counts its pumps.
+class PumpCounter final : public quindar::calculus::NullRunHost {
+public:
+    void pump() override { ++pumps; }
+    long pumps = 0;
+};
+
+// Every sample of an integral passes one pump except the two of the first trapezoid, which
+// share one; the pump after each inner integral makes up for that, so pumps count samples.
+void BM_triple_integral(benchmark::State &state) {
+    quindar::Parser parser("", "");
+    parser.angle_mode = 1;
+    PumpCounter host;
+    quindar::calculus::IntegrationSettings settings;
+    settings.type = 3;
+    settings.function = "x*y*EXP[-z] + SIN[x*z]";
+    settings.low = {"0", "0", "0"};
+    settings.high = {"y", "z", "1"};
+    settings.slider = static_cast<int>(state.range(0));
+    for (auto _ : state) {
+        quindar::calculus::IntegrationRun run(parser, host);
+        benchmark::DoNotOptimize(run.run(settings).value);
+    }
+    report(state, host.pumps);
+    const long cells = quindar::calculus::SliderGridPoints(settings.slider) - 1;
+    state.counters["inner integrals/s"] = benchmark::Counter(
+        static_cast<double>(cells * cells * static_cast<long>(state.iterations())),
+        benchmark::Counter::kIsRate);
+}
+BENCHMARK(BM_triple_integral)->Arg(20)->Arg(100)->Unit(benchmark::kMillisecond);
+
+// 100 rows of the function and its three derivatives. The run pumps once per row of the
+// variable, once per cell and at the end of each column; the rest are the derivatives'
+// samples, and the function adds one solve per row.
+void BM_differentiation_table(benchmark::State &state) {
+    quindar::Parser parser("", "");
+    parser.angle_mode = 1;
+    PumpCounter host;
+    const quindar::calculus::DifferentiationSettings settings{kExpression, "x", "1", "3", "100"};
+    constexpr long kRows = 100;
+    constexpr long kOwnPumps = kRows + 4 * kRows + 4 + 1;
+    for (auto _ : state) {
+        quindar::calculus::DifferentiationRun run(parser, host, 6);
+        quindar::calculus::DifferentiationTable table;
+        benchmark::DoNotOptimize(run.run(settings, table).solved);
+    }
+    const long runs = static_cast<long>(state.iterations());
+    report(state, host.pumps - runs * (kOwnPumps - kRows));
+    state.counters["rows/s"] =
+        benchmark::Counter(static_cast<double>(kRows * runs), benchmark::Counter::kIsRate);
+}
+BENCHMARK(BM_differentiation_table)->Unit(benchmark::kMillisecond);
 
 }  // namespace

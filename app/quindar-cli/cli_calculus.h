@@ -13,19 +13,25 @@
 
 namespace quindar::cli {
 
-enum class CalculusKind { Integrate, Derivative, Root };
+enum class CalculusKind { Integrate, Derivative, Root, Differentiate };
 
 struct CalculusOptions {
     CalculusKind kind = CalculusKind::Integrate;
     std::vector<std::string> operands;  // EXPR VAR and the limits or the point
-    std::optional<std::string> accuracy, order, step, precision;
+    std::optional<std::string> accuracy, order, step, precision, slider, columns;
 };
 
 // The option's name ("--integrate") and the number of operands it takes, or 0 when the
 // argument names no numeric option.
 int CalculusOperandCount(const std::string &argument, CalculusKind &kind);
 
-// Runs the computation and writes the value to out, or the reason it failed to error.
+// The operands of an integral's second and third variable that follow the first four at
+// `next`: three for each axis whose variable and limits stand there before any option, and
+// not counting a last lone argument, which is the FILE.
+int ExtraIntegralOperands(const std::vector<std::string> &arguments, std::size_t next);
+
+// Runs the computation and writes the value to out (a line each), or the reason it failed to
+// error. A table that fails at a point keeps the rows before in out.
 // The exit status: 0 done, 1 the computation failed, 2 an option's value is wrong.
 int RunCalculus(Parser &parser, const CalculusOptions &options, std::string &out,
                 std::string &error);

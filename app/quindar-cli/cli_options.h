@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "cli_calculus.h"
+#include "cli_describe.h"
 #include "text_run.h"
 
 namespace quindar::cli {
@@ -30,6 +31,10 @@ struct Options {
     // A numeric computation instead of printing the text; the text then only sets up the
     // engine, and only when FILE is given.
     std::optional<CalculusOptions> calculus;
+    // --precision outside a computation: the digits of the answers written into the text.
+    std::optional<int> answerPrecision;
+    // --functions or --describe: the Function Library's texts instead of a text.
+    DescribeOptions describe;
 };
 
 // The options, or the reason they are wrong in error.

@@ -7,8 +7,10 @@
 #include <vector>
 
 #include "cli_calculus.h"
+#include "cli_describe.h"
 #include "cli_document.h"
 #include "cli_files.h"
+#include "cli_graph.h"
 #include "cli_options.h"
 #include "memory_text_buffer.h"
 #include "parser.h"
@@ -68,24 +70,25 @@ int Compute(const cli::Options &options, Parser &parser) {
     if (options.radians) parser.angle_mode = 1;
     if (options.havePath) ReportFailures(RunText(work.text, options.key, parser));
     std::string value;
-    switch (cli::RunCalculus(parser, *options.calculus, value, error)) {
-        case 0:
-            break;
-        case 1:
-            std::cerr << error << '\n';
-            return 1;
-        default:
-            return Fail(error);
-    }
-    std::cout << value << std::endl;
-    return std::cout ? 0 : Fail("cannot write standard output");
+    const int status = cli::RunCalculus(parser, *options.calculus, value, error);
+    if (status > 1) return Fail(error);
+    // A table that failed at a point keeps its rows.
+    std::cout << value << std::flush;
+    if (!std::cout) return Fail("cannot write standard output");
+    if (status == 0) return 0;
+    std::cerr << error << '\n';
+    return 1;
 }
 
 }  // namespace
 
 int main(int argc, char **argv) {
     std::string error;
-    const auto options = cli::ParseOptions(std::vector<std::string>(argv + 1, argv + argc), error);
+    std::vector<std::string> arguments(argv + 1, argv + argc);
+    cli::GraphOptions graph;
+    if (!cli::TakeGraphOptions(arguments, graph, error))
+        return Fail(error + "\n" + cli::kUsage + "Try \"quindar-cli --help\".");
+    const auto options = cli::ParseOptions(arguments, error);
     if (!options) return Fail(error + "\n" + cli::kUsage + "Try \"quindar-cli --help\".");
     if (options->help) {
         std::cout << cli::kHelp;
@@ -101,11 +104,18 @@ int main(int argc, char **argv) {
     create_user_library(libraries);
     Parser parser(libraries.c_str(), libraries.c_str());
     Warn(OpenLibraries(parser, libraries));
+    if (graph.name) return cli::RunGraph(graph, *options, parser);
     if (options->calculus) return Compute(*options, parser);
+    if (options->describe.Wanted()) {
+        const int status = cli::RunDescribe(options->describe, libraries, std::cout, error);
+        if (status == 1) std::cerr << "quindar-cli: " << error << '\n';
+        return status == 2 ? Fail(error) : status;
+    }
 
     Work work;
     if (!LoadWork(options->path, parser, work, error)) return Fail(error);
     if (options->radians) parser.angle_mode = 1;
+    if (options->answerPrecision) cli::ApplyAnswerPrecision(parser, *options->answerPrecision);
     const TextRun run = RunText(work.text, options->key, parser);
     // A document holds its text with CR LF line ends, whatever the input had.
     work.document.text = ToCrLf(run.text);

@@ -11,99 +11,29 @@
 
 #include "calculus_format.h"
 #include "calculus_messages.h"
+#include "circular_functions.h"
+#include "limit_text.h"
 #include "mapped_expression.h"
+#include "variable_checks.h"
 
 namespace quindar::calculus {
 namespace {
 
-constexpr double kImaginaryTolerance = 1e-14;
-constexpr const char *kCircularFunctions[] = {"SIN",  "COS", "TAN", "ASIN", "ACOS",
-                                              "ATAN", "COT", "CSC", "SEC"};
-
 Outcome Failure(std::string text) {
     return Outcome{false, 0.0L, std::move(text)};
-}
-
-// The variable must stand in the expression, and for a user function be one of its variables.
-// Integration lets x, y and z pass unseen: the integral of "1" in x is allowed.
-bool VariableMatches(Parser &parser, const std::string &expression, const std::string &variable,
-                     bool freeAxes) {
-    if (freeAxes && variable.size() == 1 && std::strchr("xXyYzZ", variable[0]) != nullptr)
-        return true;
-    if (expression.find(variable) == std::string::npos) return false;
-    const int fn = parser.find_function(expression.c_str());
-    if (fn < 0) return true;
-    for (const char *name = parser.get_func_variable(fn, true); name != nullptr;
-         name = parser.get_func_variable(fn, false))
-        if (variable == name) return true;
-    return false;
-}
-
-// A limit: an expression that may not hold its own variable, with a real value.
-bool EvaluateLimit(Parser &parser, const std::string &text, const std::string &variable,
-                   int imaginaryMessage, long double &value, std::string &error) {
-    if (text.find_first_not_of(" \t") == std::string::npos) {
-        error = message(kLimitMissing);
-        return false;
-    }
-    parser.SetSilentMode(true);
-    if (parser.find_token(text.c_str(), variable.c_str())) {
-        error = Format(message(kLimitOfItsVariable), variable);
-        return false;
-    }
-    complex result;
-    parser.eval_exp(text.c_str(), result, true, false);
-    if (parser.IsAnError()) {
-        error = parser.GetLastError() ? parser.GetLastError() : "";
-        parser.ClearLastError();
-        return false;
-    }
-    if (parser.real_abs(result.imag) > kImaginaryTolerance) {
-        error = message(imaginaryMessage);
-        return false;
-    }
-    value = result.real;
-    return true;
 }
 
 // Both ends of a range, the high one first as the pages read them.
 bool EvaluateRange(Parser &parser, const std::string &lowText, const std::string &highText,
                    const std::string &variable, long double &low, long double &high,
                    std::string &error) {
-    return EvaluateLimit(parser, highText, variable, kImaginaryLimit, high, error) &&
-           EvaluateLimit(parser, lowText, variable, kImaginaryLimit, low, error);
-}
-
-std::string TakeError(Parser &parser) {
-    std::string text = parser.GetLastError() ? parser.GetLastError() : "";
-    parser.ClearLastError();
-    return text;
-}
-
-std::string Upper(std::string text) {
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
-    return text;
-}
-
-// In degrees a derivative of a circular function would be off by the degree's factor, so the
-// run refuses it: the first circular function in the text or in a user function it calls.
-std::string FindCircularFunction(Parser &parser, const std::string &text, int depth = 0) {
-    const std::string upper = Upper(text);
-    for (const char *name : kCircularFunctions)
-        if (parser.find_token(upper.c_str(), name)) return name;
-    if (depth > 16) return {};
-    char token[kExpressionSize];
-    char type = 0;
-    for (const char *rest = parser.get_token(text.c_str(), token, type); rest != nullptr;
-         rest = parser.get_token(rest, token, type)) {
-        if (type != kName || !parser.is_function(token)) continue;
-        const char *body = parser.get_func_value(token);
-        if (body == nullptr || std::string(body).find(token) != std::string::npos) continue;
-        std::string found = FindCircularFunction(parser, body, depth + 1);
-        if (!found.empty()) return found;
-    }
-    return {};
+    const LimitRules rules{kLimitMissing, kImaginaryLimit, variable};
+    LimitFailure failure;
+    if (EvaluateLimit(parser, highText, rules, high, failure) &&
+        EvaluateLimit(parser, lowText, rules, low, failure))
+        return true;
+    error = failure.text;
+    return false;
 }
 
 }  // namespace
@@ -130,7 +60,8 @@ Outcome Integrate(Parser &parser, const IntegralRequest &request) {
 Outcome Differentiate(Parser &parser, const DerivativeRequest &request) {
     if (request.variable.empty()) return Failure(message(kNoDifferentiationVariable));
     if (parser.angle_mode == 0) {
-        const std::string circular = FindCircularFunction(parser, request.expression);
+        const std::string circular = FindCircularFunction(
+            parser, request.expression, parser.find_function(request.expression.c_str()));
         if (!circular.empty()) return Failure(Format(message(kDegreesTrigonometry), circular));
     }
     if (!VariableMatches(parser, request.expression, request.variable, false))
@@ -138,10 +69,11 @@ Outcome Differentiate(Parser &parser, const DerivativeRequest &request) {
     if (parser.is_var_locked(request.variable.c_str()))
         return Failure(Format(message(kVariableLocked), request.variable));
     long double at = 0.0L;
-    std::string error;
-    if (!EvaluateLimit(parser, request.at, request.variable, kImaginaryDifferentiationLimit, at,
-                       error))
-        return Failure(error);
+    LimitFailure failure;
+    if (!EvaluateLimit(parser, request.at,
+                       {kLimitMissing, kImaginaryDifferentiationLimit, request.variable}, at,
+                       failure))
+        return Failure(failure.text);
     MappedExpression mapped(parser, request.expression, request.variable, at,
                             kAssignOrDifferentiate);
     if (!mapped.ok()) return Failure(mapped.error_text());

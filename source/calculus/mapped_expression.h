@@ -9,6 +9,8 @@
 #include <string>
 
 #include "parser.h"
+#include "run_map.h"
+#include "run_variable.h"
 
 namespace quindar::calculus {
 
@@ -18,29 +20,20 @@ public:
     // behind the engine's own when the expression names something unknown.
     MappedExpression(Parser &parser, const std::string &expression, const std::string &variable,
                      long double start, int assignMessage);
-    ~MappedExpression();
     MappedExpression(const MappedExpression &) = delete;
     MappedExpression &operator=(const MappedExpression &) = delete;
 
     bool ok() const { return error.empty(); }
     const std::string &error_text() const { return error; }
     // The map's 1-based position in the engine's list.
-    int map() const { return map_index; }
-    const char *variable_name() const { return variable.c_str(); }
+    int map() const { return run_map.index(); }
+    const char *variable_name() const { return variable.name().c_str(); }
 
 private:
-    void restore_variable();
-
-    Parser &parser;
-    std::string variable;
+    // Declared first: the map goes before the variable is given back.
+    RunVariable variable;
+    RunMap run_map;
     std::string error;
-    int map_index = 0;
-    bool declared = false;
-    bool locked = false;
-    complex saved_value;
-    bool saved_incremented = false;
-    complex saved_low, saved_high;
-    long saved_points = 0;
 };
 
 }  // namespace quindar::calculus

@@ -1,27 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The settings file as the source of new graphs' default colours and orientation.
+// SPDX-FileCopyrightText: 2026 The Quindar developers
 #pragma once
 
-#include "app_settings.h"
-#include "graph_settings.h"
-#include "ini_file.h"
+// The settings file as the source of new graphs' default colours and orientation: read into
+// the plain record the graph model takes, and the colours saved back from it.
+
+#include "graph_defaults.h"
 
 namespace quindar {
 
-// Plugs a settings file into GraphData::SetDefaultColors, SetDefaultOrientation and
-// SaveDefaultColors through the profile calls.
-class IniGraphSettings final : public GraphSettings {
-public:
-    explicit IniGraphSettings(const char *path) : file(path) {}
-    // The application's settings file in the user's configuration folder.
-    IniGraphSettings() : IniGraphSettings(settings_file_path().c_str()) {}
+// "Graph Default Orientation" and "Graph Default Colors" of the file at path; a missing key,
+// or a colour of fewer than three fields, keeps the built-in value.
+GraphDefaults read_graph_defaults(const char *path);
+// The same from the application's settings file in the user's configuration folder.
+GraphDefaults read_graph_defaults();
 
-    int GetInt(const char *section, const char *key, int deflt) const override;
-    bool GetColor(const char *section, const char *key, TColor deflt, TColor &value) const override;
-    bool WriteString(const char *section, const char *key, const char *value) override;
-
-private:
-    IniFile file;
-};
+// The sixteen colours as "r,g,b" under "Graph Default Colors"; false at the first failed write.
+bool save_graph_default_colors(const char *path, const GraphDefaults &defaults);
 
 }  // namespace quindar

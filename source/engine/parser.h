@@ -299,9 +299,12 @@ public:
               int maxIterations, long double &root);
     long double GetY(int map, const char *var, long double x, long double tolerance,
                      long double &yHighest, long double &yLowest, bool &isZero);
-    // The application's stop flag and message pump for the loops above; none when the
-    // engine runs alone.
+    // The application's stop flag, message pump and progress for the loops above and for
+    // graph builds; none when the engine runs alone.
     void set_computation_hooks(ComputationHooks *hooks);
+    ComputeHost *get_compute_host() const { return computation_hooks; }
+    // Held by a graph build or a calculus run for its length: one at a time per document.
+    ComputeGate compute_gate;
 
     // Settings read by the list windows, the trigonometric functions and documents.
     bool use_square_brackets = true;

@@ -13,24 +13,6 @@ namespace {
 // A new axis variable of no points spans this many.
 constexpr long kDefaultAxisPoints = 25;
 
-// The integer keys of "Graph Default Orientation" and the fields they set.
-struct OrientationKey {
-    const char *key;
-    int deflt;
-    int GraphData::*intField;
-    float GraphData::*floatField;
-};
-
-const OrientationKey kOrientationKeys[] = {
-    {"Depth2D", 20, &GraphData::Depth2D, nullptr},
-    {"Inclination2D", 15, &GraphData::Inclination2D, nullptr},
-    {"Rotation", 10, &GraphData::Rotation2D, nullptr},
-    {"PerspectiveDepth", 20, nullptr, &GraphData::PerspectiveDepth},
-    {"XRotation3D", 25, nullptr, &GraphData::XRotation},
-    {"YRotation3D", 0, nullptr, &GraphData::YRotation},
-    {"ZRotation3D", 310, nullptr, &GraphData::ZRotation},
-};
-
 void copy_variable(std::unique_ptr<Variable> &to, const std::unique_ptr<Variable> &from) {
     to = from ? std::make_unique<Variable>(from.get()) : nullptr;
 }
@@ -152,35 +134,26 @@ GraphData &GraphData::operator=(const GraphData &other) {
     return *this;
 }
 
-void GraphData::SetDefaultOrientation(const GraphSettings *settings) {
-    if (settings == nullptr) return;
-    for (const OrientationKey &row : kOrientationKeys) {
-        const int value = settings->GetInt(kGraphOrientationSection, row.key, row.deflt);
-        if (row.intField != nullptr)
-            this->*row.intField = value;
-        else
-            this->*row.floatField = static_cast<float>(value);
-    }
+void GraphData::SetDefaultOrientation(const GraphDefaults &defaults) {
+    Depth2D = defaults.Depth2D;
+    Inclination2D = defaults.Inclination2D;
+    Rotation2D = defaults.Rotation2D;
+    PerspectiveDepth = static_cast<float>(defaults.PerspectiveDepth);
+    XRotation = static_cast<float>(defaults.XRotation);
+    YRotation = static_cast<float>(defaults.YRotation);
+    ZRotation = static_cast<float>(defaults.ZRotation);
 }
 
-void GraphData::SetDefaultColors(const GraphSettings *settings) {
-    for (const GraphColorInfo &color : graph_colors()) {
-        TColor value = color.deflt;
-        if (settings != nullptr)
-            settings->GetColor(kGraphColorsSection, color.settingsKey, color.deflt, value);
-        this->*color.field = value;
-    }
+void GraphData::SetDefaultColors(const GraphDefaults &defaults) {
+    const auto table = graph_colors();
+    for (std::size_t i = 0; i < table.size() && i < defaults.colors.size(); ++i)
+        this->*table[i].field = defaults.colors[i];
 }
 
-bool GraphData::SaveDefaultColors(GraphSettings *settings) const {
-    if (settings == nullptr) return false;
-    for (const GraphColorInfo &color : graph_colors()) {
-        const TColor value = this->*color.field;
-        char text[40];
-        std::snprintf(text, sizeof text, "%d,%d,%d", value.Red(), value.Green(), value.Blue());
-        if (!settings->WriteString(kGraphColorsSection, color.settingsKey, text)) return false;
-    }
-    return true;
+void GraphData::GetDefaultColors(GraphDefaults &defaults) const {
+    const auto table = graph_colors();
+    for (std::size_t i = 0; i < table.size() && i < defaults.colors.size(); ++i)
+        defaults.colors[i] = this->*table[i].field;
 }
 
 void GraphData::SetDefault3DAttributes() {
@@ -284,12 +257,13 @@ void GraphData::SetCLZAxisVar(const Variable *variable) {
     set_axis_variable(CLZAxisVar, variable);
 }
 
-GraphData *add_new_graph(GraphList &list, const char *name, const GraphSettings *settings) {
+GraphData *add_new_graph(GraphList &list, const char *name, const GraphDefaults *defaults) {
     GraphData *graph = list.add();
     if (graph == nullptr) return nullptr;
     graph->SetName(name);
-    graph->SetDefaultOrientation(settings);
-    graph->SetDefaultColors(settings);
+    const GraphDefaults builtIn;
+    graph->SetDefaultOrientation(defaults != nullptr ? *defaults : builtIn);
+    graph->SetDefaultColors(defaults != nullptr ? *defaults : builtIn);
     graph->SetDefault3DAttributes();
     graph->SetHeader(name);
     return graph;

@@ -9,7 +9,7 @@
 #include "dynarray.h"
 #include "dynlist.h"
 #include "function.h"
-#include "graph_settings.h"
+#include "graph_defaults.h"
 #include "str_data_pnts.h"
 #include "variable.h"
 
@@ -35,13 +35,12 @@ public:
     GraphData &operator=(const GraphData &other);
     ~GraphData() = default;
 
-    // "Graph Default Orientation": seven integers; the Default... fields stay. Null reads
-    // nothing and keeps the fields.
-    void SetDefaultOrientation(const GraphSettings *settings);
-    // "Graph Default Colors": the sixteen colours, each with its table default.
-    void SetDefaultColors(const GraphSettings *settings);
-    // Writes the sixteen colours as "r,g,b". False at the first failed write.
-    bool SaveDefaultColors(GraphSettings *settings) const;
+    // The seven orientation values of the user's defaults; the Default... fields stay.
+    void SetDefaultOrientation(const GraphDefaults &defaults);
+    // The sixteen colours of the user's defaults.
+    void SetDefaultColors(const GraphDefaults &defaults);
+    // The sixteen colours into the record, for the settings layer to save as the defaults.
+    void GetDefaultColors(GraphDefaults &defaults) const;
     // Digits 1 to 4 set, 5 to 7 clear.
     void SetDefault3DAttributes();
 
@@ -172,9 +171,9 @@ private:
 // The graphs of one document, in insertion order.
 using GraphList = LinkList<GraphData>;
 
-// A new graph at the list's tail, named, with its orientation and colours from the settings
-// (built-in defaults when null), the default 3-D attributes, and its name as header.
-GraphData *add_new_graph(GraphList &list, const char *name, const GraphSettings *settings);
+// A new graph at the list's tail, named, with its orientation and colours from the user's
+// defaults (the built-in ones when null), the default 3-D attributes, and its name as header.
+GraphData *add_new_graph(GraphList &list, const char *name, const GraphDefaults *defaults);
 
 // Copies every graph of from into to, which is emptied first; the graph of from that was
 // current gives the current graph of to (null when none).

@@ -8,7 +8,12 @@
 #           in place must become SAVED; usage: run with ARGS (and ARGS2) and check CODE,
 #           and that
 #           standard output holds STDOUT_HAS or standard error STDERR_HAS, or standard
-#           output is exactly STDOUT_IS; "|" separates several arguments in ARGS
+#           output is exactly STDOUT_IS, or the file STDOUT_FILE; "|" separates several
+#           arguments in ARGS; golden: run with ARGS (INPUT on standard input, if given),
+#           check CODE, and compare standard output with EXPECTED;
+#           graph: --graph GRAPH (with ARGS) on INPUT, standard output compared with EXPECTED,
+#           standard error with ERRORS (or empty), the exit status with CODE, and with SAVED
+#           the graph file written by --save-graph compared with it
 cmake_minimum_required(VERSION 3.25)
 
 file(REMOVE_RECURSE ${WORK})
@@ -53,6 +58,23 @@ macro(run_in_place name)
     set(out ${copy})
 endmacro()
 
+# golden: run with ARGS, check CODE, and standard output against the file EXPECTED.
+if(MODE STREQUAL "golden")
+    string(REPLACE "|" ";" ARGS "${ARGS}")
+    if(DEFINED INPUT)
+        execute_process(COMMAND ${CLI} ${ARGS} INPUT_FILE ${INPUT} OUTPUT_FILE ${out}
+            ERROR_FILE ${err} RESULT_VARIABLE code)
+    else()
+        execute_process(COMMAND ${CLI} ${ARGS} OUTPUT_FILE ${out} ERROR_FILE ${err}
+            RESULT_VARIABLE code)
+    endif()
+    if(NOT code STREQUAL CODE)
+        fail("exit status ${code}, expected ${CODE}")
+    endif()
+    same_file(${out} ${EXPECTED} "standard output")
+    return()
+endif()
+
 if(MODE STREQUAL "usage")
     string(REPLACE "|" ";" ARGS "${ARGS}")
     execute_process(COMMAND ${CLI} ${ARGS} ${ARGS2} OUTPUT_FILE ${out} ERROR_FILE ${err}
@@ -75,6 +97,34 @@ if(MODE STREQUAL "usage")
         if(NOT text STREQUAL "${STDOUT_IS}\n")
             fail("standard output is not \"${STDOUT_IS}\"")
         endif()
+    endif()
+    if(DEFINED STDOUT_FILE)
+        same_file(${out} ${STDOUT_FILE} "standard output")
+    endif()
+    return()
+endif()
+
+if(MODE STREQUAL "graph")
+    string(REPLACE "|" ";" ARGS "${ARGS}")
+    set(save_args)
+    if(DEFINED SAVED)
+        get_filename_component(extension ${SAVED} LAST_EXT)
+        set(written ${WORK}/written${extension})
+        set(save_args --save-graph ${written})
+    endif()
+    execute_process(COMMAND ${CLI} --graph ${GRAPH} ${ARGS} ${save_args} ${INPUT}
+        OUTPUT_FILE ${out} ERROR_FILE ${err} RESULT_VARIABLE code)
+    if(NOT code STREQUAL CODE)
+        fail("exit status ${code}, expected ${CODE}")
+    endif()
+    same_file(${out} ${EXPECTED} "the chart data")
+    if(NOT EXISTS ${ERRORS})
+        set(ERRORS ${WORK}/no-errors)
+        file(WRITE ${ERRORS} "")
+    endif()
+    same_file(${err} ${ERRORS} "standard error")
+    if(DEFINED SAVED)
+        same_file(${written} ${SAVED} "the graph file")
     endif()
     return()
 endif()

@@ -199,7 +199,7 @@ TEST(SettingsFile, AFileThatCannotBeWrittenKeepsItsDefaults) {
 TEST_F(Settings, NewGraphsTakeTheirDefaultsFromTheUsersSettingsFile) {
     std::filesystem::create_directories(folder.file("Quindar"));
     testing::write_content(file, "[Graph Default Colors]\r\nBackground=10,20,30\r\n");
-    IniGraphSettings graphSettings;
+    const GraphDefaults graphSettings = read_graph_defaults();
     GraphList list;
     const GraphData *graph = add_new_graph(list, "G", &graphSettings);
     EXPECT_EQ(graph->BackgroundColor, TColor(10, 20, 30));

@@ -77,13 +77,13 @@ TEST(ProfileSnapshot, KeyListIsCutAsTheProfileCallCutsIt) {
     EXPECT_EQ(listed.front(), "Graph1");
 }
 
-TEST(IniGraphSettings, NewGraphsReadTheSettingsFile) {
+TEST(GraphDefaultSettings, NewGraphsReadTheSettingsFile) {
     TempFolder folder;
     const std::string path = folder.file("Quindar.ini");
     write_content(path,
                   "[Graph Default Colors]\r\nBackground=1,2,3\r\nMeshTop=300,2\r\n"
                   "[Graph Default Orientation]\r\nRotation=45\r\nXRotation3D=60\r\n");
-    IniGraphSettings settings(path.c_str());
+    const GraphDefaults settings = read_graph_defaults(path.c_str());
     GraphList list;
     GraphData *graph = add_new_graph(list, "G", &settings);
     EXPECT_EQ(graph->BackgroundColor, TColor(1, 2, 3));
@@ -93,7 +93,9 @@ TEST(IniGraphSettings, NewGraphsReadTheSettingsFile) {
     EXPECT_EQ(graph->Depth2D, 20);
 
     graph->SurfaceTopColor = TColor(7, 8, 9);
-    ASSERT_TRUE(graph->SaveDefaultColors(&settings));
+    GraphDefaults saved;
+    graph->GetDefaultColors(saved);
+    ASSERT_TRUE(save_graph_default_colors(path.c_str(), saved));
     TColor read;
     EXPECT_TRUE(
         IniFile(path.c_str()).GetColor("Graph Default Colors", "SurfaceTop", TColor::Black, read));

@@ -259,35 +259,14 @@ TEST(GraphData, CopyIsDeepAndKeepsLinks) {
     EXPECT_EQ(current, copy.gettail());
 }
 
-class FakeSettings final : public GraphSettings {
-public:
-    int GetInt(const char *section, const char *key, int deflt) const override {
-        auto it = ints.find(std::string(section) + "/" + key);
-        return it == ints.end() ? deflt : it->second;
-    }
-    bool GetColor(const char *section, const char *key, TColor deflt,
-                  TColor &value) const override {
-        auto it = colors.find(std::string(section) + "/" + key);
-        value = it == colors.end() ? deflt : it->second;
-        return it != colors.end();
-    }
-    bool WriteString(const char *section, const char *key, const char *value) override {
-        written += std::string(section) + "/" + key + "=" + value + ";";
-        return true;
-    }
-    std::map<std::string, int> ints;
-    std::map<std::string, TColor> colors;
-    std::string written;
-};
-
-TEST(GraphData, DefaultsFromTheSettingsSource) {
-    FakeSettings settings;
-    settings.ints["Graph Default Orientation/Rotation"] = 33;
-    settings.ints["Graph Default Orientation/YRotation3D"] = 4;
-    settings.colors["Graph Default Colors/GraphForegrond"] = TColor(9, 8, 7);
+TEST(GraphData, DefaultsFromTheUsersRecord) {
+    GraphDefaults defaults;
+    defaults.Rotation2D = 33;
+    defaults.YRotation = 4;
+    defaults.colors[7] = TColor(9, 8, 7);  // the graph foreground
     GraphData graph;
-    graph.SetDefaultOrientation(&settings);
-    graph.SetDefaultColors(&settings);
+    graph.SetDefaultOrientation(defaults);
+    graph.SetDefaultColors(defaults);
     EXPECT_EQ(graph.Rotation2D, 33);
     EXPECT_EQ(graph.DefaultRotation2D, 10);
     EXPECT_FLOAT_EQ(graph.YRotation, 4.0f);
@@ -296,24 +275,29 @@ TEST(GraphData, DefaultsFromTheSettingsSource) {
     EXPECT_EQ(graph.BackgroundColor, TColor(64, 128, 128));
 
     graph.BackgroundColor = TColor(1, 2, 3);
-    EXPECT_TRUE(graph.SaveDefaultColors(&settings));
-    EXPECT_EQ(settings.written.find("Graph Default Colors/Background=1,2,3;"), 0u);
-    EXPECT_NE(settings.written.find("Graph Default Colors/GraphForegrond=9,8,7;"),
-              std::string::npos);
+    GraphDefaults saved;
+    graph.GetDefaultColors(saved);
+    EXPECT_EQ(saved.colors[0], TColor(1, 2, 3));
+    EXPECT_EQ(saved.colors[7], TColor(9, 8, 7));
+    EXPECT_EQ(saved.Rotation2D, 10) << "only the colours are saved";
 
-    // No source: the built-in defaults.
+    // The built-in record: the colour table's defaults and the orientation of a new graph,
+    // except the 3-D Y rotation, which the settings hold as a whole number.
+    const GraphDefaults builtIn;
     GraphData plain;
     plain.BackgroundColor = TColor(5, 5, 5);
-    plain.SetDefaultColors(nullptr);
-    plain.SetDefaultOrientation(nullptr);
+    plain.SetDefaultColors(builtIn);
+    plain.SetDefaultOrientation(builtIn);
     EXPECT_EQ(plain.BackgroundColor, TColor(64, 128, 128));
-    EXPECT_FALSE(plain.SaveDefaultColors(nullptr));
+    EXPECT_EQ(plain.SurfaceTopColor, TColor(255, 255, 255));
+    EXPECT_FLOAT_EQ(plain.YRotation, 0.0f);
+    EXPECT_EQ(plain.Depth2D, 20);
 }
 
 TEST(GraphData, NewGraphTakesItsNameSettingsAndHeader) {
-    FakeSettings settings;
-    settings.ints["Graph Default Orientation/Depth2D"] = 44;
-    settings.colors["Graph Default Colors/Background"] = TColor(3, 3, 3);
+    GraphDefaults settings;
+    settings.Depth2D = 44;
+    settings.colors[0] = TColor(3, 3, 3);
     GraphList list;
     list.add();
     GraphData *graph = add_new_graph(list, "Sales", &settings);
