@@ -11,6 +11,7 @@
 
 #include "app_services.h"
 #include "desktop_folders.h"
+#include "document_graph_tools.h"
 #include "main_frame.h"
 #include "program_folders.h"
 #include "start_request.h"
@@ -43,6 +44,7 @@ int main(int argc, char **argv) {
     if (qEnvironmentVariableIntValue("QUINDAR_NO_SPLASH") != 1) services.SplashStart();
 
     quindar::Workbench workbench(services, folders);
+    quindar::install_graph_tools(workbench);
     quindar::MainFrame *frame = workbench.Start(words);
     frame->showMaximized();
     workbench.AfterShow();

@@ -239,6 +239,7 @@ bool DocumentWindow::CanClose() {
 }
 
 bool DocumentWindow::CommandEnabler(int id, CommandState &state) {
+    if (toolState && toolState(id, state)) return true;
     switch (id) {
         case command::kFileSave:
             state.enabled = IsDirty();

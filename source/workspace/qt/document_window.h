@@ -45,6 +45,9 @@ public:
     // What the document is busy with; nothing computes yet, so this stays idle until the
     // graph and calculus windows report through it.
     std::function<DocumentActivity()> activity;
+    // The states of the commands that the document's tool windows answer (the graph pane),
+    // asked before the document's own; false for an id they leave alone.
+    std::function<bool(int id, CommandState &state)> toolState;
 
     // Save: to its file, or through Save As when it has none. True when saved.
     bool Save();

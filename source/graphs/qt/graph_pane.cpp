@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Quindar developers
+#include "graph_pane.h"
+
+#include <QLabel>
+#include <QPainter>
+#include <QStackedLayout>
+
+#include "chart_runs.h"
+#include "chart_spec.h"
+#include "chart_view_2d.h"
+#include "graph_compute_host.h"
+#include "graph_layout.h"
+#include "graph_messages.h"
+#include "graph_progress_dialog.h"
+
+namespace quindar {
+
+GraphPane::GraphPane(QWidget *parent)
+    : QWidget(parent),
+      stack(new QStackedLayout(this)),
+      chart2D(new ChartView2D(this)),
+      notice(new QLabel(this)) {
+    setAccessibleName(tr("Graph pane"));
+    notice->setAccessibleName(tr("Graph notice"));
+    notice->setAlignment(Qt::AlignCenter);
+    notice->setWordWrap(true);
+    stack->addWidget(chart2D);
+    stack->addWidget(notice);
+    connect(chart2D, &ChartView2D::clicked, this, &GraphPane::Click);
+    formatValue = [](double value) { return QString::number(value, 'g', 15); };
+}
+
+GraphPane::~GraphPane() = default;
+
+bool GraphPane::Build(Parser &parser, const GraphData &graph, GraphList *list,
+                      const GraphBuildOutput &output) {
+    if (building) return false;
+    GraphData work(graph);
+    if (work.GetGraphType() == kGraph2D) work.DataLayout = decide_data_layout(parser, work);
+
+    GraphProgressDialog dialog(window());
+    dialog.setWindowTitle(QString::fromStdString(work.Name));
+    dialog.show();
+    GraphComputeHost host(&dialog, this, pumpMilliseconds);
+    ComputeHost *before = parser.get_compute_host();
+    parser.set_computation_hooks(&host);
+    progress = &dialog;
+    building = true;
+    GraphBuilder builder(parser, work, output);
+    const bool complete = builder.Build(list);
+    building = false;
+    progress = nullptr;
+    parser.set_computation_hooks(before);
+
+    // A cancelled build still shows what it computed.
+    file2D.reset();
+    file3D.reset();
+    data2D = builder.Data2D;
+    data3D = builder.Data3D;
+    shownGraph = work;
+    chart2D->removeAllLabels();
+    if (data2D) {
+        chart2D->apply(chart_spec_2d(work, parser.angle_mode));
+        chart2D->setData(*data2D);
+        stack->setCurrentWidget(chart2D);
+    } else if (data3D) {
+        ShowNotice(tr("3-D graphs need OpenGL"));
+    }
+    emit built();
+    return complete;
+}
+
+void GraphPane::ShowNotice(const QString &text) {
+    notice->setText(text);
+    stack->setCurrentWidget(notice);
+}
+
+QString GraphPane::Notice() const {
+    return stack->currentWidget() == notice ? notice->text() : QString();
+}
+
+bool GraphPane::OpenFile(const std::string &path, const GraphDefaults &defaults, int angleMode,
+                         std::string &error) {
+    std::string text;
+    if (!load_graph_file_text(path, text, error)) return false;
+    const int kind = graph_file_kind(path);
+    if (kind == 1) {
+        GraphFile2D file;
+        if (!parse_graph_file(text, defaults, file, error)) return false;
+        chart2D->removeAllLabels();
+        chart2D->apply(chart_spec_2d(file, angleMode));
+        chart2D->setData(file.data);
+        stack->setCurrentWidget(chart2D);
+        file2D = std::move(file);
+        file3D.reset();
+    } else if (kind == 2) {
+        GraphFile3D file;
+        if (!parse_graph_file(text, defaults, file, error)) return false;
+        ShowNotice(tr("3-D graphs need OpenGL"));
+        file3D = std::move(file);
+        file2D.reset();
+    } else {
+        error = graph_message(kMsgNotAGraphFile);
+        return false;
+    }
+    shownGraph.reset();
+    data2D.reset();
+    data3D.reset();
+    return true;
+}
+
+bool GraphPane::HasChart() const {
+    return data2D || data3D || file2D || file3D;
+}
+
+std::string GraphPane::FileExtension() const {
+    if (data2D || file2D) return ".g2d";
+    if (data3D || file3D) return ".g3d";
+    return {};
+}
+
+bool GraphPane::SaveFile(const std::string &path, std::string &error) const {
+    std::string text;
+    if (file2D)
+        text = graph_file_text(*file2D);
+    else if (file3D)
+        text = graph_file_text(*file3D);
+    else if (shownGraph && data2D)
+        text = graph_file_text(make_graph_file_2d(*shownGraph, *data2D));
+    else if (shownGraph && data3D)
+        text = graph_file_text(make_graph_file_3d(*shownGraph, *data3D));
+    else {
+        error = "no graph";
+        return false;
+    }
+    return save_graph_file(path, text, error);
+}
+
+ChartView *GraphPane::CurrentView() const {
+    return stack->currentWidget() == chart2D && (data2D || file2D) ? chart2D : nullptr;
+}
+
+QImage GraphPane::Image(QSize size) const {
+    if (ChartView *view = CurrentView()) return view->renderImage(size);
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    Print(painter, QRect(QPoint(0, 0), size));
+    return image;
+}
+
+void GraphPane::Print(QPainter &painter, const QRect &target) const {
+    if (ChartView *view = CurrentView()) {
+        view->print(painter, target);
+        return;
+    }
+    painter.drawText(target, Qt::AlignCenter, notice->text());
+}
+
+void GraphPane::Click(QPoint position) {
+    if (!pointLabelsOn || CurrentView() != chart2D) return;
+    const ChartPick hit = chart2D->pick(position);
+    if (!pick_takes_label(hit.region, hit.distance)) return;
+    if (chart2D->removeLabel(hit.set, hit.point)) return;
+    // A graph read from a file has no definition to label from.
+    if (!data2D) return;
+    const QString text = QStringLiteral(" (%1 , %2) ")
+                             .arg(formatValue(data2D->x(hit.set, hit.point)),
+                                  formatValue(data2D->y(hit.set, hit.point)));
+    chart2D->addLabel(hit.set, hit.point, text);
+}
+
+}  // namespace quindar

@@ -1,0 +1,190 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Quindar developers
+// The graph pane inside a document of the desktop program: the build with its progress and
+// Cancel, the refusal to close while building, the swap back to the text, point labels,
+// Copy, Save Graph To File and Open Graph From File.
+
+#include <QChart>
+#include <QChartView>
+#include <QClipboard>
+#include <QFile>
+#include <QGuiApplication>
+#include <QLayout>
+#include <QLineSeries>
+#include <QPushButton>
+#include <QTimer>
+#include <QtTest>
+
+#include "chart_data.h"
+#include "chart_view_2d.h"
+#include "command_table.h"
+#include "desktop_harness.h"
+#include "document_graph_tools.h"
+#include "document_window.h"
+#include "graph_pane.h"
+#include "graph_progress_dialog.h"
+#include "main_frame.h"
+#include "math_editor_widget.h"
+#include "message_box_rules.h"
+#include "parser.h"
+
+using namespace quindar;
+using namespace quindar::testing;
+
+namespace {
+
+// f(x) = 1/(x-2) on 0..4: point (x = 2) of the points fails and is a hole.
+GraphData &AddGraph(DocumentWindow &document, long points) {
+    document.Engine().eval_exp("f(x)=1/(x-2)", true, false);
+    DocumentContent &content = document.Content();
+    GraphData *graph = add_new_graph(content.graphs, "G", nullptr);
+    graph->AddFunction("f(x)", "");
+    const Variable x("x", complex{0, 0}, complex{4, 0}, points);
+    graph->SetXAxisVar(&x);
+    content.currentGraph = graph;
+    return *graph;
+}
+
+int Holes(const ChartData2D &data) {
+    int holes = 0;
+    for (int point = 0; point < data.points(); ++point) holes += data.y(0, point) == data.hole();
+    return holes;
+}
+
+}  // namespace
+
+class DocumentGraphsTest : public QObject {
+    Q_OBJECT
+private slots:
+    void graphCommandBuildsAndSwapsBackKeepingTheText();
+    void closingIsRefusedDuringABuildAndCancelKeepsWhatWasComputed();
+    void aClickTogglesAPointLabel();
+    void savedGraphOpensAgain();
+    void openingAFileOfAnotherKindIsRefused();
+};
+
+void DocumentGraphsTest::graphCommandBuildsAndSwapsBackKeepingTheText() {
+    DesktopHarness harness;
+    install_graph_tools(harness.Bench());
+    DocumentWindow &document = *harness.Current();
+    document.TextPane().setPlainText(QStringLiteral("a=1\nkept text"));
+    AddGraph(document, 41);
+    QVERIFY(harness.Bench().Router().Execute(command::kShowGraphWindow));
+    GraphPane &pane = document_graph_pane(harness.Bench(), document);
+    QVERIFY(!pane.isHidden());
+    QVERIFY(document.TextPane().isHidden());
+    const ChartView2D &chart = pane.Chart2D();
+    QVERIFY(chart.data().has_value());
+    QCOMPARE(chart.data()->points(), 41);
+    QCOMPARE(Holes(*chart.data()), 1);
+    // The hole at x = 2 splits the curve in two.
+    QCOMPARE(chart.chart()->series().size(), 2);
+    CommandState state;
+    QVERIFY(document.CommandEnabler(command::kCopyGraph, state));
+    QVERIFY(state.enabled);
+    QVERIFY(document.CommandEnabler(command::kShowGraphWindow, state));
+    QVERIFY(state.checked);
+
+    QGuiApplication::clipboard()->clear();
+    QVERIFY(harness.Bench().Router().Execute(command::kCopyGraph));
+    QVERIFY(!QGuiApplication::clipboard()->image().isNull());
+
+    QVERIFY(harness.Bench().Router().Execute(command::kShowGraphWindow));
+    QVERIFY(pane.isHidden());
+    QVERIFY(!document.TextPane().isHidden());
+    QCOMPARE(document.TextPane().toPlainText(), QStringLiteral("a=1\nkept text"));
+    QVERIFY(document.CommandEnabler(command::kCopyGraph, state));
+    QVERIFY(!state.enabled);
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DocumentGraphsTest::closingIsRefusedDuringABuildAndCancelKeepsWhatWasComputed() {
+    DesktopHarness harness;
+    install_graph_tools(harness.Bench());
+    DocumentWindow &document = *harness.Current();
+    AddGraph(document, 4001);
+    GraphPane &pane = document_graph_pane(harness.Bench(), document);
+    pane.pumpMilliseconds = 0;  // every report pumps, so the timer runs inside the build
+    harness.boxes.Expect(QStringLiteral("You are currently building a graph"), kIdOk);
+    harness.boxes.Expect(QStringLiteral("You are currently building a graph"), kIdOk);
+    bool refused = false, textRefused = false;
+    QTimer::singleShot(0, &pane, [&] {
+        QVERIFY(pane.Building());
+        refused = !document.CanClose();
+        document.ForgetCloseAnswer();
+        harness.Bench().Router().Execute(command::kShowMathWindow);
+        textRefused = !pane.isHidden();
+        QVERIFY(pane.Progress() != nullptr);
+        pane.Progress()->cancelButton()->click();
+    });
+    QVERIFY(harness.Bench().Router().Execute(command::kShowGraphWindow));
+    QVERIFY(refused);
+    QVERIFY(textRefused);
+    QVERIFY(!pane.Building());
+    // The points computed before the Cancel are drawn; the rest stay holes.
+    const ChartView2D &chart = pane.Chart2D();
+    QVERIFY(chart.data().has_value());
+    const int holes = Holes(*chart.data());
+    QVERIFY2(holes > 1 && holes < 4001, qPrintable(QString::number(holes)));
+    QVERIFY(!chart.chart()->series().isEmpty());
+    QVERIFY(!document.activity().buildingGraph);
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DocumentGraphsTest::aClickTogglesAPointLabel() {
+    DesktopHarness harness;
+    install_graph_tools(harness.Bench());
+    DocumentWindow &document = *harness.Current();
+    AddGraph(document, 5);  // x = 0, 1, 2 (hole), 3, 4
+    harness.Frame().resize(900, 700);
+    QVERIFY(harness.Bench().Router().Execute(command::kShowGraphWindow));
+    GraphPane &pane = document_graph_pane(harness.Bench(), document);
+    ChartView2D &chart = pane.Chart2D();
+    chart.resize(600, 400);
+    chart.layout()->activate();
+    QAbstractSeries *second = chart.chart()->series().at(1);  // the run after the hole
+    const QPointF inChart = chart.chart()->mapToPosition(QPointF(3, 1), second);
+    const QPoint at = chart.chartView()->mapTo(
+        &chart, chart.chartView()->mapFromScene(chart.chart()->mapToScene(inChart)));
+    QCOMPARE(chart.pick(at).point, 3);
+    pane.Click(at);
+    QVERIFY(chart.hasLabel(0, 3));
+    pane.Click(at + QPoint(3, 3));
+    QCOMPARE(chart.labelCount(), 0);
+    pane.Click(at + QPoint(0, 12));  // too far: nothing
+    QCOMPARE(chart.labelCount(), 0);
+}
+
+void DocumentGraphsTest::savedGraphOpensAgain() {
+    DesktopHarness harness;
+    install_graph_tools(harness.Bench());
+    DocumentWindow &document = *harness.Current();
+    AddGraph(document, 9);
+    QVERIFY(harness.Bench().Router().Execute(command::kShowGraphWindow));
+    GraphPane &pane = document_graph_pane(harness.Bench(), document);
+    const ChartData2D built = *pane.Chart2D().data();
+    const QString path = harness.Folder() + QStringLiteral("/saved");
+    harness.nextSaveFile = path;
+    QVERIFY(harness.Bench().Router().Execute(command::kSaveGraphFile));
+    QVERIFY(QFile::exists(path + QStringLiteral(".g2d")));
+
+    harness.nextOpenFiles = {path + QStringLiteral(".g2d")};
+    QVERIFY(harness.Bench().Router().Execute(command::kOpenGraphFile));
+    QVERIFY(pane.Chart2D().data().has_value());
+    QVERIFY(*pane.Chart2D().data() == built);
+    QCOMPARE(harness.dialogTitles, (QStringList{"Save Graph As", "Open Graph File"}));
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DocumentGraphsTest::openingAFileOfAnotherKindIsRefused() {
+    DesktopHarness harness;
+    install_graph_tools(harness.Bench());
+    harness.nextOpenFiles = {harness.Folder() + QStringLiteral("/notes.txt")};
+    harness.boxes.Expect(QStringLiteral("You must select a valid Quindar graph file"), kIdOk);
+    QVERIFY(harness.Bench().Router().Execute(command::kOpenGraphFile));
+    QVERIFY(harness.boxes.shown.front().startsWith(QStringLiteral("Open Graph File Error: ")));
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+QTEST_MAIN(DocumentGraphsTest)
+#include "test_document_graphs.moc"
