@@ -7,7 +7,7 @@ packages=(
     g++ cmake ninja-build pkg-config
     libintelrdfpmath-dev libmpfr-dev libgmp-dev
     libgtest-dev libbenchmark-dev libmuparser-dev ccache
-    qt6-base-dev qt6-svg-dev qt6-qpa-plugins libgl-dev qt6-charts-dev qt6-datavisualization-dev libqt6opengl6-dev
+    qt6-base-dev qt6-svg-dev qt6-qpa-plugins libgl-dev qt6-charts-dev qt6-datavisualization-dev libqt6opengl6-dev qt6-declarative-dev
     xvfb xauth xdotool fonts-dejavu-core fonts-liberation poppler-utils
 )
 

@@ -2,13 +2,13 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 #include "graph_pane.h"
 
-#include <QLabel>
 #include <QPainter>
 #include <QStackedLayout>
 
 #include "chart_runs.h"
 #include "chart_spec.h"
 #include "chart_view_2d.h"
+#include "chart_view_3d.h"
 #include "graph_compute_host.h"
 #include "graph_layout.h"
 #include "graph_messages.h"
@@ -17,16 +17,9 @@
 namespace quindar {
 
 GraphPane::GraphPane(QWidget *parent)
-    : QWidget(parent),
-      stack(new QStackedLayout(this)),
-      chart2D(new ChartView2D(this)),
-      notice(new QLabel(this)) {
+    : QWidget(parent), stack(new QStackedLayout(this)), chart2D(new ChartView2D(this)) {
     setAccessibleName(tr("Graph pane"));
-    notice->setAccessibleName(tr("Graph notice"));
-    notice->setAlignment(Qt::AlignCenter);
-    notice->setWordWrap(true);
     stack->addWidget(chart2D);
-    stack->addWidget(notice);
     connect(chart2D, &ChartView2D::clicked, this, &GraphPane::Click);
     formatValue = [](double value) { return QString::number(value, 'g', 15); };
 }
@@ -65,19 +58,26 @@ bool GraphPane::Build(Parser &parser, const GraphData &graph, GraphList *list,
         chart2D->setData(*data2D);
         stack->setCurrentWidget(chart2D);
     } else if (data3D) {
-        ShowNotice(tr("3-D graphs need OpenGL"));
+        Show3D(chart_spec_3d(work), *data3D);
     }
     emit built();
     return complete;
 }
 
-void GraphPane::ShowNotice(const QString &text) {
-    notice->setText(text);
-    stack->setCurrentWidget(notice);
+void GraphPane::Show3D(const ChartSpec3D &spec, const ChartGrid3D &grid) {
+    if (chart3D == nullptr) {
+        chart3D = new ChartView3D(this);
+        stack->addWidget(chart3D);
+    }
+    chart3D->removeAllLabels();
+    chart3D->apply(spec);
+    chart3D->setData(grid);
+    stack->setCurrentWidget(chart3D);
 }
 
 QString GraphPane::Notice() const {
-    return stack->currentWidget() == notice ? notice->text() : QString();
+    const bool shows3D = chart3D != nullptr && stack->currentWidget() == chart3D;
+    return shows3D && !chart3D->canDraw() ? ChartView3D::noOpenGlText() : QString();
 }
 
 bool GraphPane::OpenFile(const std::string &path, const GraphDefaults &defaults, int angleMode,
@@ -97,7 +97,7 @@ bool GraphPane::OpenFile(const std::string &path, const GraphDefaults &defaults,
     } else if (kind == 2) {
         GraphFile3D file;
         if (!parse_graph_file(text, defaults, file, error)) return false;
-        ShowNotice(tr("3-D graphs need OpenGL"));
+        Show3D(chart_spec_3d(file), file.grid);
         file3D = std::move(file);
         file2D.reset();
     } else {
@@ -138,24 +138,20 @@ bool GraphPane::SaveFile(const std::string &path, std::string &error) const {
 }
 
 ChartView *GraphPane::CurrentView() const {
-    return stack->currentWidget() == chart2D && (data2D || file2D) ? chart2D : nullptr;
+    if (stack->currentWidget() == chart2D) return data2D || file2D ? chart2D : nullptr;
+    if (chart3D != nullptr && stack->currentWidget() == chart3D) return chart3D;
+    return nullptr;
 }
 
 QImage GraphPane::Image(QSize size) const {
     if (ChartView *view = CurrentView()) return view->renderImage(size);
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::white);
-    QPainter painter(&image);
-    Print(painter, QRect(QPoint(0, 0), size));
     return image;
 }
 
 void GraphPane::Print(QPainter &painter, const QRect &target) const {
-    if (ChartView *view = CurrentView()) {
-        view->print(painter, target);
-        return;
-    }
-    painter.drawText(target, Qt::AlignCenter, notice->text());
+    if (ChartView *view = CurrentView()) view->print(painter, target);
 }
 
 void GraphPane::Click(QPoint position) {

@@ -12,17 +12,18 @@
 #include <string>
 
 #include "chart_data.h"
+#include "chart_spec.h"
 #include "graph_builder.h"
 #include "graph_data.h"
 #include "graph_file.h"
 
-class QLabel;
 class QPainter;
 class QStackedLayout;
 
 namespace quindar {
 
 class ChartView2D;
+class ChartView3D;
 class ChartView;
 class GraphProgressDialog;
 
@@ -50,11 +51,13 @@ public:
     std::string FileExtension() const;
 
     ChartView2D &Chart2D() const { return *chart2D; }
+    // The 3-D chart, made on the first 3-D graph; null before.
+    ChartView3D *Chart3D() const { return chart3D; }
     // The chart that shows, null for none.
     ChartView *CurrentView() const;
     QImage Image(QSize size) const;
     void Print(QPainter &painter, const QRect &target) const;
-    // The text that shows where no chart can (a 3-D graph for now).
+    // The text that shows where no chart can (a 3-D graph without OpenGL); empty otherwise.
     QString Notice() const;
 
     // Turns a value into the text of a point label.
@@ -71,11 +74,11 @@ signals:
     void built();
 
 private:
-    void ShowNotice(const QString &text);
+    void Show3D(const ChartSpec3D &spec, const ChartGrid3D &grid);
 
     QStackedLayout *stack;
     ChartView2D *chart2D;
-    QLabel *notice;
+    ChartView3D *chart3D = nullptr;
     GraphProgressDialog *progress = nullptr;
     bool building = false;
     // What the pane shows: a built graph and its data, or a file's contents.
