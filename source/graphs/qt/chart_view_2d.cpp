@@ -98,7 +98,20 @@ void set_axis_range(QAbstractAxis *axis, double low, double high, bool room) {
     }
     const double pad = room ? (high - low) * 0.05 : 0.0;
     values->setRange(low - pad, high + pad);
-    values->applyNiceNumbers();
+    if (room) {
+        values->applyNiceNumbers();
+        return;
+    }
+    // The data's own span, with ticks at round values inside it.
+    const double rough = (high - low) / 8.0;
+    const double magnitude = std::pow(10.0, std::floor(std::log10(rough)));
+    double step = magnitude;
+    for (double factor : {2.0, 5.0, 10.0})
+        if (step < rough) step = magnitude * factor;
+    values->setTickType(QValueAxis::TicksDynamic);
+    values->setTickAnchor(0.0);
+    values->setTickInterval(step);
+    values->setLabelFormat(QStringLiteral("%g"));
 }
 
 }  // namespace
@@ -249,7 +262,7 @@ void ChartView2D::drawXY(bool area) {
                 auto *filled = new QAreaSeries(line);
                 line->setParent(filled);
                 QColor fill = color;
-                fill.setAlpha(170);
+                fill.setAlpha(120);
                 filled->setBrush(fill);
                 filled->setPen(QPen(color, style.lineWidth));
                 series = filled;
