@@ -2,8 +2,12 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 #include "chart_looks.h"
 
+#include <QFontInfo>
 #include <QLabel>
+#include <QLayout>
+#include <QPainter>
 #include <QStringList>
+#include <algorithm>
 
 namespace quindar {
 
@@ -39,6 +43,31 @@ void show_title(QLabel &label, const std::string &text, const std::string &font,
     palette.setColor(QPalette::WindowText, foreground);
     label.setPalette(palette);
     label.setVisible(!text.empty());
+}
+
+void paint_chart_frame(QPainter &painter, const QRect &target, QWidget &frame, const QLabel &header,
+                       const QLabel &footer, const std::function<void(QPainter &)> &paintChart) {
+    if (frame.size().isEmpty()) frame.resize(target.size());
+    if (frame.layout() != nullptr) frame.layout()->activate();
+    const double scale =
+        std::min(target.width() / double(frame.width()), target.height() / double(frame.height()));
+    painter.save();
+    painter.translate(target.topLeft());
+    painter.translate((target.width() - frame.width() * scale) / 2,
+                      (target.height() - frame.height() * scale) / 2);
+    painter.scale(scale, scale);
+    painter.fillRect(frame.rect(), frame.palette().color(QPalette::Window));
+    for (const QLabel *title : {&header, &footer}) {
+        if (title->isHidden() || title->text().isEmpty()) continue;
+        painter.fillRect(title->geometry(), title->palette().color(QPalette::Window));
+        painter.setPen(title->palette().color(QPalette::WindowText));
+        QFont font = title->font();
+        font.setPixelSize(QFontInfo(title->font()).pixelSize());
+        painter.setFont(font);
+        painter.drawText(title->geometry(), Qt::AlignCenter, title->text());
+    }
+    paintChart(painter);
+    painter.restore();
 }
 
 QString value_text(double value) {

@@ -7,13 +7,17 @@
 
 #include <QColor>
 #include <QFont>
+#include <QRect>
 #include <QString>
+#include <functional>
 #include <string>
 #include <vector>
 
 #include "chart_spec.h"
 
 class QLabel;
+class QPainter;
+class QWidget;
 
 namespace quindar {
 
@@ -27,6 +31,10 @@ QFont font_from_text(const std::string &text, const QFont &fallback);
 // A header or footer label: text, font and colours; hidden when the text is empty.
 void show_title(QLabel &label, const std::string &text, const std::string &font,
                 const QColor &background, const QColor &foreground);
+// A chart frame (header, chart, footer) scaled into target: the background, the titles as text
+// (sized in pixels, since a printer's points grow with its resolution), then the chart itself.
+void paint_chart_frame(QPainter &painter, const QRect &target, QWidget &frame, const QLabel &header,
+                       const QLabel &footer, const std::function<void(QPainter &)> &paintChart);
 // A chart value as an axis or legend shows it.
 QString value_text(double value);
 

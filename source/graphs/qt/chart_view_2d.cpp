@@ -230,6 +230,51 @@ void ChartView2D::rebuild() {
     for (const auto &[key, text] : kept) addLabel(key.first, key.second, text);
 }
 
+DataStyle ChartView2D::styleOf(int set) const {
+    if (set >= 0 && set < kStyledSets) return spec_.styles[static_cast<std::size_t>(set)];
+    return DataStyle{2, 2, TColor{}, 1, 10, TColor{}, 7};
+}
+
+QString ChartView2D::setLabel(int set) const {
+    if (set < 0 || set >= static_cast<int>(spec_.setLabels.size())) return {};
+    return QString::fromStdString(spec_.setLabels[static_cast<std::size_t>(set)]);
+}
+
+QAbstractSeries *ChartView2D::styledRun(QLineSeries *line, int set, bool area, int alpha) const {
+    const QColor color = setColor(set);
+    const DataStyle style = styleOf(set);
+    if (area) {
+        auto *filled = new QAreaSeries(line);
+        line->setParent(filled);
+        QColor fill = color;
+        fill.setAlpha(alpha);
+        filled->setBrush(fill);
+        filled->setPen(QPen(color, style.lineWidth));
+        return filled;
+    }
+    line->setPen(style.linePattern == 1 ? QPen(Qt::NoPen) : QPen(color, style.lineWidth));
+    const QImage marker = point_marker(style.pointStyle, color, style.pointSize);
+    if (!marker.isNull()) {
+        line->setLightMarker(marker);
+        line->setMarkerSize(style.pointSize);
+    }
+    return line;
+}
+
+void ChartView2D::addRun(QAbstractSeries *series, int set, const PointRun &run,
+                         QAbstractAxis *horizontal, QAbstractAxis *vertical, bool firstOfSet) {
+    series->setName(setLabel(set));
+    chart_->addSeries(series);
+    series->attachAxis(horizontal);
+    series->attachAxis(vertical);
+    for (QLegendMarker *legend : chart_->legend()->markers(series)) {
+        // Runs after a set's first share its legend entry.
+        legend->setVisible(firstOfSet);
+        legend->setBrush(setColor(set));
+    }
+    runs_.push_back({series, set, run.first, run.count});
+}
+
 void ChartView2D::drawXY(bool area) {
     const ChartData2D &data = *data_;
     QAbstractAxis *axisX = value_axis(spec_.logX);
@@ -241,9 +286,6 @@ void ChartView2D::drawXY(bool area) {
     double low = 0, high = 0, bottom = 0, top = 0;
     bool any = false;
     for (int set = 0; set < data.sets(); ++set) {
-        const QColor color = setColor(set);
-        const DataStyle style = set < kStyledSets ? spec_.styles[static_cast<std::size_t>(set)]
-                                                  : DataStyle{2, 2, TColor{}, 1, 10, TColor{}, 7};
         bool first = true;
         for (const PointRun &run : drawable_runs(data, set, spec_.logX, spec_.logY)) {
             auto *line = new QLineSeries;
@@ -257,36 +299,7 @@ void ChartView2D::drawXY(bool area) {
                 top = std::max(top, y);
                 any = true;
             }
-            QAbstractSeries *series = line;
-            if (area) {
-                auto *filled = new QAreaSeries(line);
-                line->setParent(filled);
-                QColor fill = color;
-                fill.setAlpha(120);
-                filled->setBrush(fill);
-                filled->setPen(QPen(color, style.lineWidth));
-                series = filled;
-            } else {
-                line->setPen(style.linePattern == 1 ? QPen(Qt::NoPen)
-                                                    : QPen(color, style.lineWidth));
-                const QImage marker = point_marker(style.pointStyle, color, style.pointSize);
-                if (!marker.isNull()) {
-                    line->setLightMarker(marker);
-                    line->setMarkerSize(style.pointSize);
-                }
-            }
-            if (set < static_cast<int>(spec_.setLabels.size()))
-                series->setName(
-                    QString::fromStdString(spec_.setLabels[static_cast<std::size_t>(set)]));
-            chart_->addSeries(series);
-            series->attachAxis(axisX);
-            series->attachAxis(axisY);
-            for (QLegendMarker *legend : chart_->legend()->markers(series)) {
-                // Runs after a set's first share its legend entry.
-                legend->setVisible(first);
-                legend->setBrush(color);
-            }
-            runs_.push_back({series, set, run.first, run.count});
+            addRun(styledRun(line, set, area, 120), set, run, axisX, axisY, first);
             first = false;
         }
     }
@@ -301,10 +314,7 @@ void ChartView2D::drawBars(bool stacked) {
     QAbstractBarSeries *bars =
         stacked ? static_cast<QAbstractBarSeries *>(new QStackedBarSeries) : new QBarSeries;
     for (int set = 0; set < data.sets(); ++set) {
-        auto *barSet =
-            new QBarSet(set < static_cast<int>(spec_.setLabels.size())
-                            ? QString::fromStdString(spec_.setLabels[static_cast<std::size_t>(set)])
-                            : QString());
+        auto *barSet = new QBarSet(setLabel(set));
         // A bar set cannot leave a place empty: a point that is not there stands at 0.
         for (int point = 0; point < data.points(); ++point) {
             const double y = data.y(set, point);
@@ -357,8 +367,7 @@ void ChartView2D::drawPie() {
         }
         pie->setHorizontalPosition((set + 0.5) / pies);
         pie->setPieSize(std::min(0.9, 0.9 * 1.6 / pies));
-        if (set < static_cast<int>(spec_.setLabels.size()))
-            pie->setName(QString::fromStdString(spec_.setLabels[static_cast<std::size_t>(set)]));
+        pie->setName(setLabel(set));
         chart_->addSeries(pie);
         // The legend lists the slices once, those of the first pie.
         if (set > 0)
@@ -415,9 +424,7 @@ void ChartView2D::drawCandles(int group) {
             top = std::max({top, hi, lo, open, close});
             any = true;
         }
-        if (first < static_cast<int>(spec_.setLabels.size()))
-            candles->setName(
-                QString::fromStdString(spec_.setLabels[static_cast<std::size_t>(first)]));
+        candles->setName(setLabel(first));
         chart_->addSeries(candles);
         candles->attachAxis(axisX);
         candles->attachAxis(axisY);
@@ -446,9 +453,6 @@ void ChartView2D::drawPolar() {
     polar->addAxis(radial, QPolarChart::PolarOrientationRadial);
     double radius = 0;
     for (int set = 0; set < data.sets(); ++set) {
-        const QColor color = setColor(set);
-        const DataStyle style = set < kStyledSets ? spec_.styles[static_cast<std::size_t>(set)]
-                                                  : DataStyle{2, 2, TColor{}, 1, 10, TColor{}, 7};
         bool first = true;
         for (const PointRun &run : drawable_runs(data, set, false, false)) {
             auto *line = new QLineSeries;
@@ -456,20 +460,7 @@ void ChartView2D::drawPolar() {
                 line->append(data.x(set, point), data.y(set, point));
                 radius = std::max(radius, data.y(set, point));
             }
-            line->setPen(QPen(color, style.lineWidth));
-            const QImage marker = point_marker(style.pointStyle, color, style.pointSize);
-            if (!marker.isNull()) {
-                line->setLightMarker(marker);
-                line->setMarkerSize(style.pointSize);
-            }
-            if (set < static_cast<int>(spec_.setLabels.size()))
-                line->setName(
-                    QString::fromStdString(spec_.setLabels[static_cast<std::size_t>(set)]));
-            polar->addSeries(line);
-            line->attachAxis(angular);
-            line->attachAxis(radial);
-            for (QLegendMarker *legend : chart_->legend()->markers(line)) legend->setVisible(first);
-            runs_.push_back({line, set, run.first, run.count});
+            addRun(styledRun(line, set, false, 0), set, run, angular, radial, first);
             first = false;
         }
     }
@@ -495,7 +486,6 @@ void ChartView2D::drawRadar(bool filled) {
     polar->addAxis(radial, QPolarChart::PolarOrientationRadial);
     double top = 0;
     for (int set = 0; set < data.sets(); ++set) {
-        const QColor color = setColor(set);
         const std::vector<PointRun> runs = drawable_runs(data, set, false, false);
         // A whole set closes its shape back at the first point.
         const bool closed = runs.size() == 1 && runs.front().count == data.points();
@@ -507,29 +497,10 @@ void ChartView2D::drawRadar(bool filled) {
                 top = std::max(top, data.y(set, point));
             }
             if (closed) line->append(n, data.y(set, 0));
-            QAbstractSeries *series = line;
-            if (filled) {
-                auto *area = new QAreaSeries(line);
-                line->setParent(area);
-                QColor fill = color;
-                fill.setAlpha(150);
-                area->setBrush(fill);
-                area->setPen(QPen(color, 1));
-                series = area;
-            } else {
-                line->setPen(QPen(color, 1));
-            }
-            if (set < static_cast<int>(spec_.setLabels.size()))
-                series->setName(
-                    QString::fromStdString(spec_.setLabels[static_cast<std::size_t>(set)]));
-            polar->addSeries(series);
-            series->attachAxis(angular);
-            series->attachAxis(radial);
-            for (QLegendMarker *legend : chart_->legend()->markers(series)) {
-                legend->setVisible(first);
-                legend->setBrush(color);
-            }
-            runs_.push_back({series, set, run.first, run.count});
+            QAbstractSeries *series = styledRun(line, set, filled, 150);
+            // Radar lines carry no markers: the spokes mark the points.
+            if (!filled) line->setLightMarker(QImage());
+            addRun(series, set, run, angular, radial, first);
             first = false;
         }
     }
@@ -707,31 +678,11 @@ QImage ChartView2D::renderImage(QSize size) {
 }
 
 void ChartView2D::print(QPainter &painter, const QRect &target) {
-    if (size().isEmpty()) resize(target.size());
-    if (layout() != nullptr) layout()->activate();
     placeLabels();
-    const double scale =
-        std::min(target.width() / double(width()), target.height() / double(height()));
-    painter.save();
-    painter.translate(target.topLeft());
-    painter.translate((target.width() - width() * scale) / 2,
-                      (target.height() - height() * scale) / 2);
-    painter.scale(scale, scale);
-    painter.fillRect(rect(), palette().color(QPalette::Window));
-    // Header and footer are drawn as text and the chart from its scene, so a printer page
-    // keeps both as vectors and words.
-    for (QLabel *title : {header_, footer_}) {
-        if (title->isHidden() || title->text().isEmpty()) continue;
-        painter.fillRect(title->geometry(), title->palette().color(QPalette::Window));
-        painter.setPen(title->palette().color(QPalette::WindowText));
-        // In pixels: a printer's points would grow with its resolution on top of the scale.
-        QFont font = title->font();
-        font.setPixelSize(QFontInfo(title->font()).pixelSize());
-        painter.setFont(font);
-        painter.drawText(title->geometry(), Qt::AlignCenter, title->text());
-    }
-    view_->render(&painter, QRectF(view_->geometry()), view_->viewport()->rect());
-    painter.restore();
+    // The chart from its scene, so a printer page keeps it as vectors and words.
+    paint_chart_frame(painter, target, *this, *header_, *footer_, [this](QPainter &p) {
+        view_->render(&p, QRectF(view_->geometry()), view_->viewport()->rect());
+    });
 }
 
 bool ChartView2D::eventFilter(QObject *watched, QEvent *event) {

@@ -14,12 +14,15 @@
 #include <vector>
 
 #include "chart_data.h"
+#include "chart_runs.h"
 #include "chart_spec.h"
 #include "chart_view.h"
 
 class QChart;
 class QChartView;
 class QAbstractSeries;
+class QAbstractAxis;
+class QLineSeries;
 class QGraphicsItem;
 class QLabel;
 
@@ -77,6 +80,12 @@ private:
     };
 
     void rebuild();
+    DataStyle styleOf(int set) const;
+    QString setLabel(int set) const;
+    // A run's line in its set's style, or the area under it with this opacity.
+    QAbstractSeries *styledRun(QLineSeries *line, int set, bool area, int alpha) const;
+    void addRun(QAbstractSeries *series, int set, const PointRun &run, QAbstractAxis *horizontal,
+                QAbstractAxis *vertical, bool firstOfSet);
     void applyFrameColors();
     void applyChartColors();
     void drawXY(bool area);

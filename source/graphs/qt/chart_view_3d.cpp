@@ -314,33 +314,16 @@ QImage ChartView3D::renderImage(QSize size) {
 }
 
 void ChartView3D::print(QPainter &painter, const QRect &target) {
-    if (size().isEmpty()) resize(target.size());
-    if (layout() != nullptr) layout()->activate();
-    const double scale =
-        std::min(target.width() / double(width()), target.height() / double(height()));
-    painter.save();
-    painter.translate(target.topLeft());
-    painter.scale(scale, scale);
-    painter.fillRect(rect(), palette().color(QPalette::Window));
-    for (QLabel *title : {header_, footer_}) {
-        if (title->isHidden() || title->text().isEmpty()) continue;
-        painter.fillRect(title->geometry(), title->palette().color(QPalette::Window));
-        painter.setPen(title->palette().color(QPalette::WindowText));
-        QFont font = title->font();
-        font.setPixelSize(QFontInfo(title->font()).pixelSize());
-        painter.setFont(font);
-        painter.drawText(title->geometry(), Qt::AlignCenter, title->text());
-    }
-    const QRect area = stack_->geometry();
-    if (glUsable) {
-        // A window container grabs black: the graph draws itself into an image.
-        const QImage picture = graph()->renderToImage(4, area.size());
-        painter.drawImage(area, picture);
-    } else {
-        painter.setPen(palette().color(QPalette::WindowText));
-        painter.drawText(area, Qt::AlignCenter | Qt::TextWordWrap, notice_->text());
-    }
-    painter.restore();
+    paint_chart_frame(painter, target, *this, *header_, *footer_, [this](QPainter &p) {
+        const QRect area = stack_->geometry();
+        if (glUsable) {
+            // A window container grabs black: the graph draws itself into an image.
+            p.drawImage(area, graph()->renderToImage(4, area.size()));
+        } else {
+            p.setPen(palette().color(QPalette::WindowText));
+            p.drawText(area, Qt::AlignCenter | Qt::TextWordWrap, notice_->text());
+        }
+    });
 }
 
 }  // namespace quindar
