@@ -11,10 +11,12 @@
 #include <sstream>
 
 #include "chart_view.h"
+#include "chart_view_2d.h"
 #include "command_table.h"
 #include "document_window.h"
 #include "graph_messages.h"
 #include "graph_pane.h"
+#include "graph_view_commands.h"
 #include "ini_graph_settings.h"
 #include "math_editor_widget.h"
 #include "message_box_rules.h"
@@ -83,9 +85,55 @@ public:
                 state.enabled = GraphShowing() && pane->CurrentView() != nullptr &&
                                 pane->CurrentView()->labelCount() > 0;
                 return true;
+            case command::kLogarithmicX:
+            case command::kLogarithmicY:
+            case command::kGridLines:
+            case command::kIncreaseMargins:
+            case command::kDecreaseMargins: {
+                const GraphData *graph = GraphShowing() ? pane->Shown2D() : nullptr;
+                state.enabled = graph != nullptr && !pane->Building();
+                if (graph != nullptr && id == command::kLogarithmicX)
+                    state.checked = graph->XAxisLogarithmic != 0;
+                if (graph != nullptr && id == command::kLogarithmicY)
+                    state.checked = graph->YAxisLogarithmic != 0;
+                if (graph != nullptr && id == command::kGridLines)
+                    state.checked = graph->ShowGridLines != 0;
+                return true;
+            }
             default:
                 return false;
         }
+    }
+
+    // A view command on the shown graph: the working copy changes, the document's graph of
+    // the same name takes the change, and the chart is drawn again.
+    void ChangeView(int id) {
+        GraphData *graph = pane->Shown2D();
+        if (graph == nullptr || pane->Building()) return;
+        switch (id) {
+            case command::kLogarithmicX:
+            case command::kLogarithmicY:
+                if (const int refusal = toggle_log_axis(*graph, id == command::kLogarithmicX)) {
+                    const std::string_view text = graph_message(refusal);
+                    workbench.Messages().Show(
+                        pane, QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())),
+                        kMsgGraphWindow, kBoxWarning);
+                    return;
+                }
+                break;
+            case command::kGridLines:
+                toggle_grid_lines(*graph);
+                break;
+            default:
+                step_margins(*graph, pane->Chart2D().spec(),
+                             id == command::kIncreaseMargins ? kMarginStep : -kMarginStep);
+                break;
+        }
+        for (GraphData *stored = document.Content().graphs.gethead(); stored != nullptr;
+             stored = stored->next)
+            if (stored->Name == graph->Name) copy_view_fields(*graph, *stored);
+        document.MarkGraphsChanged();
+        pane->Redraw(document.Engine().angle_mode);
     }
 
     bool Run(int id) {
@@ -113,6 +161,13 @@ public:
                 return true;
             case command::kRemoveAllPointLabels:
                 if (ChartView *view = pane->CurrentView()) view->removeAllLabels();
+                return true;
+            case command::kLogarithmicX:
+            case command::kLogarithmicY:
+            case command::kGridLines:
+            case command::kIncreaseMargins:
+            case command::kDecreaseMargins:
+                ChangeView(id);
                 return true;
             default:
                 return false;
@@ -222,7 +277,10 @@ DocumentGraphs &GraphsOf(Workbench &workbench, DocumentWindow &document) {
 constexpr int kGraphCommands[] = {command::kShowGraphWindow, command::kShowMathWindow,
                                   command::kCopyGraph,       command::kPrintGraph,
                                   command::kSaveGraphFile,   command::kOpenGraphFile,
-                                  command::kPointLabels,     command::kRemoveAllPointLabels};
+                                  command::kPointLabels,     command::kRemoveAllPointLabels,
+                                  command::kLogarithmicX,    command::kLogarithmicY,
+                                  command::kGridLines,       command::kIncreaseMargins,
+                                  command::kDecreaseMargins};
 
 }  // namespace
 

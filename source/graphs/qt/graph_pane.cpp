@@ -64,6 +64,10 @@ bool GraphPane::Build(Parser &parser, const GraphData &graph, GraphList *list,
     return complete;
 }
 
+void GraphPane::Redraw(int angleMode) {
+    if (GraphData *graph = Shown2D()) chart2D->apply(chart_spec_2d(*graph, angleMode));
+}
+
 void GraphPane::Show3D(const ChartSpec3D &spec, const ChartGrid3D &grid) {
     if (chart3D == nullptr) {
         chart3D = new ChartView3D(this);

@@ -51,6 +51,10 @@ public:
     std::string FileExtension() const;
 
     ChartView2D &Chart2D() const { return *chart2D; }
+    // The built 2-D graph the pane shows (its working copy), null for none or a file.
+    GraphData *Shown2D() { return shownGraph && data2D ? &*shownGraph : nullptr; }
+    // Draws the shown graph again from its definition, keeping data and labels.
+    void Redraw(int angleMode);
     // The 3-D chart, made on the first 3-D graph; null before.
     ChartView3D *Chart3D() const { return chart3D; }
     // The chart that shows, null for none.

@@ -201,6 +201,11 @@ bool DocumentWindow::SaveAs() {
     return true;
 }
 
+void DocumentWindow::MarkGraphsChanged() {
+    graphsChanged = true;
+    emit stateChanged();
+}
+
 bool DocumentWindow::CanClose() {
     if (closeChecked) return true;
     const DocumentChanges changes = Changes();

@@ -41,6 +41,8 @@ public:
     DocumentContent &Content() { return content; }
 
     DocumentChanges Changes() const;
+    // A graph of the document changed outside the text (the graph window's view commands).
+    void MarkGraphsChanged();
     bool IsDirty() const { return document_dirty(Changes()); }
     // What the document is busy with; nothing computes yet, so this stays idle until the
     // graph and calculus windows report through it.

@@ -4,6 +4,7 @@
 // Cancel, the refusal to close while building, the swap back to the text, point labels,
 // Copy, Save Graph To File and Open Graph From File.
 
+#include <QAbstractAxis>
 #include <QChart>
 #include <QChartView>
 #include <QClipboard>
@@ -17,6 +18,7 @@
 
 #include "chart_data.h"
 #include "chart_view_2d.h"
+#include "command_router.h"
 #include "command_table.h"
 #include "desktop_harness.h"
 #include "document_graph_tools.h"
@@ -61,6 +63,7 @@ private slots:
     void aClickTogglesAPointLabel();
     void savedGraphOpensAgain();
     void openingAFileOfAnotherKindIsRefused();
+    void viewCommandsChangeTheGraphAndTheDocument();
 };
 
 void DocumentGraphsTest::graphCommandBuildsAndSwapsBackKeepingTheText() {
@@ -183,6 +186,41 @@ void DocumentGraphsTest::openingAFileOfAnotherKindIsRefused() {
     harness.boxes.Expect(QStringLiteral("You must select a valid Quindar graph file"), kIdOk);
     QVERIFY(harness.Bench().Router().Execute(command::kOpenGraphFile));
     QVERIFY(harness.boxes.shown.front().startsWith(QStringLiteral("Open Graph File Error: ")));
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DocumentGraphsTest::viewCommandsChangeTheGraphAndTheDocument() {
+    DesktopHarness harness;
+    install_graph_tools(harness.Bench());
+    DocumentWindow &document = *harness.Current();
+    GraphData &stored = AddGraph(document, 9);
+    CommandRouter &router = harness.Bench().Router();
+    QVERIFY(router.Execute(command::kShowGraphWindow));
+    GraphPane &pane = document_graph_pane(harness.Bench(), document);
+    QChart *before = pane.Chart2D().chart();
+    QCOMPARE(before->margins(), QMargins(20, 20, 20, 20));
+    QVERIFY(router.Execute(command::kIncreaseMargins));
+    QCOMPARE(pane.Chart2D().chart()->margins(), QMargins(45, 45, 45, 45));
+    QCOMPARE(stored.MarginLeft2D, 45);
+    QVERIFY(document.Changes().graphsChanged);
+    QVERIFY(router.Execute(command::kDecreaseMargins));
+    QVERIFY(router.Execute(command::kDecreaseMargins));
+    QCOMPARE(pane.Chart2D().chart()->margins(), QMargins(-5, -5, -5, -5));
+
+    QVERIFY(router.Execute(command::kLogarithmicY));
+    QCOMPARE(stored.YAxisLogarithmic, 1);
+    QCOMPARE(pane.Chart2D().chart()->axes(Qt::Vertical).front()->type(),
+             QAbstractAxis::AxisTypeLogValue);
+    QVERIFY(router.Execute(command::kGridLines));
+    QCOMPARE(stored.ShowGridLines, 0);
+    QVERIFY(!pane.Chart2D().chart()->axes(Qt::Horizontal).front()->isGridLineVisible());
+
+    // A Bar graph has no logarithmic X axis: the message, and nothing changes.
+    pane.Shown2D()->GraphType2D = 2;
+    harness.boxes.Expect(QStringLiteral("Logrithmic X-Axis is only supported"), kIdOk);
+    QVERIFY(router.Execute(command::kLogarithmicX));
+    QCOMPARE(stored.XAxisLogarithmic, 0);
+    QVERIFY(harness.boxes.shown.back().startsWith(QStringLiteral("Graph Window: ")));
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
