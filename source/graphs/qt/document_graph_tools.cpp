@@ -59,6 +59,19 @@ public:
             return activity;
         };
         doc.toolState = [this](int id, CommandState &state) { return State(id, state); };
+        connect(pane, &GraphPane::titleEdited, this, [this](int kind, const QString &text) {
+            const GraphData *shown = pane->Shown2D();
+            const QByteArray bytes = text.toUtf8();
+            for (GraphData *stored = document.Content().graphs.gethead(); shown && stored;
+                 stored = stored->next) {
+                if (stored->Name != shown->Name) continue;
+                if (kind == 0)
+                    stored->SetHeader(bytes.constData());
+                else
+                    stored->SetFooter(bytes.constData());
+            }
+            document.MarkGraphsChanged();
+        });
     }
 
     GraphPane &Pane() { return *pane; }

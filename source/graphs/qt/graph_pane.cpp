@@ -2,8 +2,10 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 #include "graph_pane.h"
 
+#include <QLineEdit>
 #include <QPainter>
 #include <QStackedLayout>
+#include <utility>
 
 #include "chart_runs.h"
 #include "chart_spec.h"
@@ -15,12 +17,19 @@
 #include "graph_progress_dialog.h"
 
 namespace quindar {
+namespace {
+
+// The longest header or footer the editor takes.
+constexpr int kTitleLimit = 512;
+
+}  // namespace
 
 GraphPane::GraphPane(QWidget *parent)
     : QWidget(parent), stack(new QStackedLayout(this)), chart2D(new ChartView2D(this)) {
     setAccessibleName(tr("Graph pane"));
     stack->addWidget(chart2D);
     connect(chart2D, &ChartView2D::clicked, this, &GraphPane::Click);
+    connect(chart2D, &ChartView2D::doubleClicked, this, &GraphPane::DoubleClick);
     formatValue = [](double value) { return QString::number(value, 'g', 15); };
 }
 
@@ -158,7 +167,52 @@ void GraphPane::Print(QPainter &painter, const QRect &target) const {
     if (ChartView *view = CurrentView()) view->print(painter, target);
 }
 
+void GraphPane::DoubleClick(QPoint position) {
+    if (CurrentView() != chart2D) return;
+    const int region = chart2D->pick(position).region;
+    if (region != kRegionHeader && region != kRegionFooter) return;
+    if (titleEditor != nullptr) CommitTitle();
+    titleKind = region == kRegionHeader ? 0 : 1;
+    const QRect rect = titleKind == 0 ? chart2D->headerRect() : chart2D->footerRect();
+    titleEditor = new QLineEdit(chart2D);
+    titleEditor->setAccessibleName(titleKind == 0 ? tr("Header editor") : tr("Footer editor"));
+    titleEditor->setMaxLength(kTitleLimit);
+    const std::string &text = titleKind == 0 ? chart2D->spec().header : chart2D->spec().footer;
+    titleEditor->setText(QString::fromStdString(text));
+    titleEditor->setGeometry(rect);
+    titleEditor->show();
+    titleEditor->setFocus();
+    titleEditor->selectAll();
+    connect(titleEditor, &QLineEdit::returnPressed, this, &GraphPane::CommitTitle);
+}
+
+void GraphPane::CommitTitle() {
+    if (titleEditor == nullptr) return;
+    QLineEdit *editor = std::exchange(titleEditor, nullptr);
+    const QString text = editor->text().left(kTitleLimit);
+    editor->hide();
+    editor->deleteLater();
+    ChartSpec2D spec = chart2D->spec();
+    (titleKind == 0 ? spec.header : spec.footer) = text.toStdString();
+    chart2D->apply(spec);
+    // A graph read from a file changes on the chart only.
+    if (GraphData *graph = Shown2D()) {
+        const QByteArray bytes = text.toUtf8();
+        if (titleKind == 0)
+            graph->SetHeader(bytes.constData());
+        else
+            graph->SetFooter(bytes.constData());
+        emit titleEdited(titleKind, text);
+    }
+}
+
 void GraphPane::Click(QPoint position) {
+    if (titleEditor != nullptr) {
+        // A click in the title being edited leaves the editor open.
+        const int region = chart2D->pick(position).region;
+        if (region == (titleKind == 0 ? kRegionHeader : kRegionFooter)) return;
+        CommitTitle();
+    }
     if (!pointLabelsOn || CurrentView() != chart2D) return;
     const ChartPick hit = chart2D->pick(position);
     if (!pick_takes_label(hit.region, hit.distance)) return;

@@ -17,6 +17,7 @@
 #include "graph_data.h"
 #include "graph_file.h"
 
+class QLineEdit;
 class QPainter;
 class QStackedLayout;
 
@@ -71,11 +72,20 @@ public:
     // The least time between two pumps of the window messages during a build.
     int pumpMilliseconds = 20;
 
-    // The click of the chart: toggles the label of the point under it.
+    // The click of the chart: commits an open title editor elsewhere, then toggles the label
+    // of the point under it.
     void Click(QPoint position);
+    // The double click: on the header or footer an editor opens over it.
+    void DoubleClick(QPoint position);
+    // The title editor while it is open (kind 0 header, 1 footer), else null.
+    QLineEdit *TitleEditor() const { return titleEditor; }
+    // Takes the editor's text into the chart and the shown graph, and closes it.
+    void CommitTitle();
 
 signals:
     void built();
+    // A header (kind 0) or footer (kind 1) was edited on a built graph.
+    void titleEdited(int kind, const QString &text);
 
 private:
     void Show3D(const ChartSpec3D &spec, const ChartGrid3D &grid);
@@ -83,6 +93,8 @@ private:
     QStackedLayout *stack;
     ChartView2D *chart2D;
     ChartView3D *chart3D = nullptr;
+    QLineEdit *titleEditor = nullptr;
+    int titleKind = 0;
     GraphProgressDialog *progress = nullptr;
     bool building = false;
     // What the pane shows: a built graph and its data, or a file's contents.

@@ -11,6 +11,8 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QLayout>
+#include <QLabel>
+#include <QLineEdit>
 #include <QLineSeries>
 #include <QPushButton>
 #include <QTimer>
@@ -64,6 +66,7 @@ private slots:
     void savedGraphOpensAgain();
     void openingAFileOfAnotherKindIsRefused();
     void viewCommandsChangeTheGraphAndTheDocument();
+    void doubleClickOnTheHeaderEditsItInPlace();
 };
 
 void DocumentGraphsTest::graphCommandBuildsAndSwapsBackKeepingTheText() {
@@ -222,6 +225,34 @@ void DocumentGraphsTest::viewCommandsChangeTheGraphAndTheDocument() {
     QCOMPARE(stored.XAxisLogarithmic, 0);
     QVERIFY(harness.boxes.shown.back().startsWith(QStringLiteral("Graph Window: ")));
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DocumentGraphsTest::doubleClickOnTheHeaderEditsItInPlace() {
+    DesktopHarness harness;
+    install_graph_tools(harness.Bench());
+    DocumentWindow &document = *harness.Current();
+    GraphData &stored = AddGraph(document, 9);
+    stored.SetHeader("Old header");
+    QVERIFY(harness.Bench().Router().Execute(command::kShowGraphWindow));
+    GraphPane &pane = document_graph_pane(harness.Bench(), document);
+    ChartView2D &chart = pane.Chart2D();
+    chart.resize(600, 400);
+    chart.layout()->activate();
+    const QPoint header = chart.headerRect().center();
+    QVERIFY(!header.isNull());
+    pane.DoubleClick(header);
+    QLineEdit *editor = pane.TitleEditor();
+    QVERIFY(editor != nullptr);
+    QCOMPARE(editor->text(), QStringLiteral("Old header"));
+    QCOMPARE(editor->maxLength(), 512);
+    editor->setText(QStringLiteral("New header"));
+    pane.Click(header);  // in the header being edited: still open
+    QVERIFY(pane.TitleEditor() != nullptr);
+    pane.Click(chart.rect().center());  // elsewhere: taken
+    QVERIFY(pane.TitleEditor() == nullptr);
+    QCOMPARE(chart.header()->text(), QStringLiteral("New header"));
+    QCOMPARE(stored.Header, std::string("New header"));
+    QVERIFY(document.Changes().graphsChanged);
 }
 
 QTEST_MAIN(DocumentGraphsTest)
