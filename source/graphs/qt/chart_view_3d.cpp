@@ -155,6 +155,13 @@ void ChartView3D::fillSurface() {
     }
     auto *series = new QSurface3DSeries;
     series->dataProxy()->resetArray(array);
+    // The chart answers (row, column), that is (iz, ix); the selection is let go at once, so
+    // a second click on the same point answers again.
+    connect(series, &QSurface3DSeries::selectedPointChanged, this, [this, series](QPoint at) {
+        if (at == QSurface3DSeries::invalidSelectionPosition()) return;
+        series->setSelectedPoint(QSurface3DSeries::invalidSelectionPosition());
+        emit picked(at.y(), at.x());
+    });
     series->setItemLabelFormat(QStringLiteral("(@xLabel , @yLabel , @zLabel)"));
     surface_->addSeries(series);
     // Gradient stops spread over the axis range: it is the data's own.
@@ -179,6 +186,11 @@ void ChartView3D::fillBars() {
     }
     auto *series = new QBar3DSeries;
     series->dataProxy()->resetArray(array);
+    connect(series, &QBar3DSeries::selectedBarChanged, this, [this, series](QPoint at) {
+        if (at == QBar3DSeries::invalidSelectionPosition()) return;
+        series->setSelectedBar(QBar3DSeries::invalidSelectionPosition());
+        emit picked(at.y(), at.x());
+    });
     bars_->addSeries(series);
 }
 

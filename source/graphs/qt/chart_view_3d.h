@@ -52,6 +52,11 @@ public:
     QRect headerRect() const override;
     QRect footerRect() const override;
 
+signals:
+    // The chart picked grid point (ix, iz): a click on the surface or a bar, answered a frame
+    // after the click.
+    void picked(int ix, int iz);
+
 private:
     void rebuild();
     bool makeGraph(bool bars);

@@ -81,6 +81,7 @@ void GraphPane::Show3D(const ChartSpec3D &spec, const ChartGrid3D &grid) {
     if (chart3D == nullptr) {
         chart3D = new ChartView3D(this);
         stack->addWidget(chart3D);
+        connect(chart3D, &ChartView3D::picked, this, &GraphPane::Toggle3DLabel);
     }
     chart3D->removeAllLabels();
     chart3D->apply(spec);
@@ -165,6 +166,17 @@ QImage GraphPane::Image(QSize size) const {
 
 void GraphPane::Print(QPainter &painter, const QRect &target) const {
     if (ChartView *view = CurrentView()) view->print(painter, target);
+}
+
+void GraphPane::Toggle3DLabel(int ix, int iz) {
+    if (!pointLabelsOn || chart3D == nullptr || CurrentView() != chart3D) return;
+    if (chart3D->removeLabel(ix, iz)) return;
+    // A graph read from a file has no definition to label from.
+    if (!data3D || !data3D->in_range(ix, iz) || data3D->value(ix, iz) == data3D->hole()) return;
+    const QString text = QStringLiteral(" (%1 , %2 , %3) ")
+                             .arg(formatValue(data3D->x_at(ix)), formatValue(data3D->value(ix, iz)),
+                                  formatValue(data3D->z_at(iz)));
+    chart3D->addLabel(ix, iz, text);
 }
 
 void GraphPane::DoubleClick(QPoint position) {

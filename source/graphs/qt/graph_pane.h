@@ -75,6 +75,8 @@ public:
     // The click of the chart: commits an open title editor elsewhere, then toggles the label
     // of the point under it.
     void Click(QPoint position);
+    // A pick on the 3-D chart: toggles the label of grid point (ix, iz).
+    void Toggle3DLabel(int ix, int iz);
     // The double click: on the header or footer an editor opens over it.
     void DoubleClick(QPoint position);
     // The title editor while it is open (kind 0 header, 1 footer), else null.

@@ -141,6 +141,13 @@ void ChartView3DTest::labelsAttachToGridPoints() {
     QCOMPARE(view.graph()->customItems().size(), 1);
     QVERIFY(view.removeLabel(2, 3));
     QCOMPARE(view.graph()->customItems().size(), 0);
+    // A pick answers (ix, iz) from the chart's (row, column), and can come again.
+    QSignalSpy picks(&view, &ChartView3D::picked);
+    auto *series = static_cast<Q3DSurface *>(view.graph())->seriesList().front();
+    series->setSelectedPoint(QPoint(3, 2));
+    series->setSelectedPoint(QPoint(3, 2));
+    QCOMPARE(picks.size(), 2);
+    QCOMPARE(picks.front(), (QList<QVariant>{2, 3}));
 }
 
 void ChartView3DTest::screenshotsOfTheLooks() {

@@ -10,8 +10,8 @@
 #include <QClipboard>
 #include <QFile>
 #include <QGuiApplication>
-#include <QLayout>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QLineSeries>
 #include <QPushButton>
