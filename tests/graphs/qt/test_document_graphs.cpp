@@ -20,6 +20,7 @@
 
 #include "chart_data.h"
 #include "chart_view_2d.h"
+#include "chart_view_3d.h"
 #include "command_router.h"
 #include "command_table.h"
 #include "desktop_harness.h"
@@ -67,6 +68,7 @@ private slots:
     void openingAFileOfAnotherKindIsRefused();
     void viewCommandsChangeTheGraphAndTheDocument();
     void doubleClickOnTheHeaderEditsItInPlace();
+    void aSurfaceWithoutOpenGlShowsANoticeAndStillSaves();
 };
 
 void DocumentGraphsTest::graphCommandBuildsAndSwapsBackKeepingTheText() {
@@ -253,6 +255,34 @@ void DocumentGraphsTest::doubleClickOnTheHeaderEditsItInPlace() {
     QCOMPARE(chart.header()->text(), QStringLiteral("New header"));
     QCOMPARE(stored.Header, std::string("New header"));
     QVERIFY(document.Changes().graphsChanged);
+}
+
+void DocumentGraphsTest::aSurfaceWithoutOpenGlShowsANoticeAndStillSaves() {
+    DesktopHarness harness;
+    install_graph_tools(harness.Bench());
+    DocumentWindow &document = *harness.Current();
+    document.Engine().eval_exp("s(x,z)=x*z", true, false);
+    DocumentContent &content = document.Content();
+    GraphData *graph = add_new_graph(content.graphs, "S", nullptr);
+    graph->AddFunction("s(x,z)", "");
+    const Variable x("x", complex{0, 0}, complex{1, 0}, 6);
+    const Variable z("z", complex{0, 0}, complex{1, 0}, 4);
+    graph->SetXAxisVar(&x);
+    graph->SetZAxisVar(&z);
+    content.currentGraph = graph;
+    QVERIFY(harness.Bench().Router().Execute(command::kShowGraphWindow));
+    GraphPane &pane = document_graph_pane(harness.Bench(), document);
+    QVERIFY(pane.Chart3D() != nullptr);
+    QVERIFY(!pane.Chart3D()->canDraw());  // the offscreen display has no OpenGL
+    QVERIFY(pane.Notice().startsWith(QStringLiteral("3-D graphs need OpenGL")));
+    QVERIFY(!pane.Image(QSize(300, 200)).isNull());
+    harness.nextSaveFile = harness.Folder() + QStringLiteral("/surface.g3d");
+    QVERIFY(harness.Bench().Router().Execute(command::kSaveGraphFile));
+    QFile saved(harness.nextSaveFile.isEmpty() ? harness.Folder() + QStringLiteral("/surface.g3d")
+                                               : QString());
+    QVERIFY(saved.open(QIODevice::ReadOnly));
+    QVERIFY(saved.readAll().startsWith("QUINDAR GRAPH DATA"));
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
 QTEST_MAIN(DocumentGraphsTest)
