@@ -5,9 +5,11 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLayout>
+#include <QMenu>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <span>
 #include <sstream>
 
 #include "chart_view.h"
@@ -59,6 +61,12 @@ public:
             return activity;
         };
         doc.toolState = [this](int id, CommandState &state) { return State(id, state); };
+        pane->setContextMenuPolicy(Qt::CustomContextMenu);
+        connect(pane, &QWidget::customContextMenuRequested, this, [this](QPoint at) {
+            QMenu *menu = make_graph_popup(workbench, pane);
+            menu->exec(pane->mapToGlobal(at));
+            delete menu;
+        });
         connect(pane, &GraphPane::titleEdited, this, [this](int kind, const QString &text) {
             const GraphData *shown = pane->Shown2D();
             const QByteArray bytes = text.toUtf8();
@@ -296,6 +304,31 @@ constexpr int kGraphCommands[] = {command::kShowGraphWindow, command::kShowMathW
                                   command::kDecreaseMargins};
 
 }  // namespace
+
+QMenu *make_graph_popup(Workbench &workbench, QWidget *parent) {
+    auto *menu = new QMenu(parent);
+    menu->setAccessibleName(QStringLiteral("Graph menu"));
+    CommandRouter &router = workbench.Router();
+    const auto fill = [&router](QMenu &target, std::span<const int> items,
+                                const auto &self) -> void {
+        for (const int item : items) {
+            if (item == command::kSeparator) {
+                target.addSeparator();
+            } else if (item < 0) {
+                const MenuSpec &sub = submenus()[static_cast<std::size_t>(-1 - item)];
+                QMenu *inner = target.addMenu(QString::fromUtf8(sub.title));
+                self(*inner, sub.items, self);
+            } else {
+                target.addAction(router.PopupAction(item, &target));
+            }
+        }
+    };
+    for (const MenuSpec &bar : menu_bar())
+        if (QString::fromUtf8(bar.title) == QStringLiteral("&Graph")) fill(*menu, bar.items, fill);
+    menu->addSeparator();
+    menu->addAction(router.PopupAction(command::kShowMathWindow, menu));
+    return menu;
+}
 
 GraphPane &document_graph_pane(Workbench &workbench, DocumentWindow &document) {
     return GraphsOf(workbench, document).Pane();

@@ -8,6 +8,9 @@
 
 #include <QObject>
 
+class QMenu;
+class QWidget;
+
 namespace quindar {
 
 class DocumentWindow;
@@ -17,6 +20,10 @@ class Workbench;
 // Answers the graph commands of every document through the workbench's document tools,
 // handing other commands to the tools installed before.
 void install_graph_tools(Workbench &workbench);
+
+// The graph pane's pop-up: the Graph menu's items, then the way back to the text. The caller
+// shows it.
+QMenu *make_graph_popup(Workbench &workbench, QWidget *parent);
 
 // The graph pane of a document, made on first use.
 GraphPane &document_graph_pane(Workbench &workbench, DocumentWindow &document);

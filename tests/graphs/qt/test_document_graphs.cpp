@@ -14,9 +14,11 @@
 #include <QLayout>
 #include <QLineEdit>
 #include <QLineSeries>
+#include <QMenu>
 #include <QPushButton>
 #include <QTimer>
 #include <QtTest>
+#include <memory>
 
 #include "chart_data.h"
 #include "chart_view_2d.h"
@@ -69,6 +71,7 @@ private slots:
     void viewCommandsChangeTheGraphAndTheDocument();
     void doubleClickOnTheHeaderEditsItInPlace();
     void aSurfaceWithoutOpenGlShowsANoticeAndStillSaves();
+    void thePopUpRepeatsTheGraphMenu();
 };
 
 void DocumentGraphsTest::graphCommandBuildsAndSwapsBackKeepingTheText() {
@@ -283,6 +286,24 @@ void DocumentGraphsTest::aSurfaceWithoutOpenGlShowsANoticeAndStillSaves() {
     QVERIFY(saved.open(QIODevice::ReadOnly));
     QVERIFY(saved.readAll().startsWith("QUINDAR GRAPH DATA"));
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DocumentGraphsTest::thePopUpRepeatsTheGraphMenu() {
+    DesktopHarness harness;
+    install_graph_tools(harness.Bench());
+    DocumentWindow &document = *harness.Current();
+    AddGraph(document, 9);
+    QVERIFY(harness.Bench().Router().Execute(command::kShowGraphWindow));
+    std::unique_ptr<QMenu> menu(make_graph_popup(harness.Bench(), &document));
+    QStringList texts;
+    for (QAction *action : menu->actions())
+        texts << (action->isSeparator() ? QStringLiteral("-") : action->text());
+    QCOMPARE(texts.first(), QStringLiteral("&Graph Setup..."));
+    QVERIFY(texts.contains(QStringLiteral("&Margins")));
+    QCOMPARE(texts.last(), QStringLiteral("Show &Math Window"));
+    for (QAction *action : menu->actions())
+        if (action->text() == QStringLiteral("&Copy Graph To Clip Board"))
+            QVERIFY(action->isEnabled());
 }
 
 QTEST_MAIN(DocumentGraphsTest)
