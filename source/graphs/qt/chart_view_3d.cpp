@@ -15,6 +15,7 @@
 #include <cmath>
 #include <limits>
 
+#include "chart_camera.h"
 #include "chart_looks.h"
 #include "surface_levels.h"
 
@@ -26,13 +27,6 @@ constexpr int kBackground = 0x0200, kForeground = 0x0204, kDataAreaBackground = 
               kFooterBackground = 0x0202, kFooterForeground = 0x0203, kGraphBackground = 0x0205,
               kGraphForeground = 0x0206, kHeaderBackground = 0x0207, kHeaderForeground = 0x0208,
               kMeshTop = 0x020C, kSurfaceBottom = 0x020D, kSurfaceTop = 0x020E;
-
-// The chart library's rotation about the vertical axis runs from -180 to 180.
-float wrap180(float degrees) {
-    float wrapped = std::fmod(degrees + 180.0f, 360.0f);
-    if (wrapped < 0) wrapped += 360.0f;
-    return wrapped - 180.0f;
-}
 
 }  // namespace
 
@@ -255,11 +249,22 @@ void ChartView3D::applyLooks() {
         }
     }
     // The view: rotation about the vertical from ZRotation, elevation from XRotation, zoom.
+    const CameraView view = camera_from_view(
+        {spec_.xRotation, spec_.zRotation, spec_.scale, spec_.xTranslate, spec_.yTranslate});
     Q3DCamera *camera = g->scene()->activeCamera();
-    camera->setXRotation(wrap180(spec_.zRotation));
-    camera->setYRotation(spec_.xRotation);
-    camera->setZoomLevel(100.0f * spec_.scale);
-    camera->setTarget(QVector3D(spec_.xTranslate, spec_.yTranslate, 0.0f));
+    camera->setXRotation(view.xRotation);
+    camera->setYRotation(view.yRotation);
+    camera->setZoomLevel(view.zoom);
+    camera->setTarget(QVector3D(view.targetX, view.targetY, 0.0f));
+}
+
+CameraView ChartView3D::camera() const {
+    if (!glUsable)
+        return camera_from_view(
+            {spec_.xRotation, spec_.zRotation, spec_.scale, spec_.xTranslate, spec_.yTranslate});
+    const Q3DCamera *view = graph()->scene()->activeCamera();
+    return CameraView{view->xRotation(), view->yRotation(), view->zoomLevel(), view->target().x(),
+                      view->target().y()};
 }
 
 ChartPick ChartView3D::pick(QPoint position) const {

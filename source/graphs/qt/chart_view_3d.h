@@ -11,6 +11,7 @@
 #include <optional>
 #include <utility>
 
+#include "chart_camera.h"
 #include "chart_data.h"
 #include "chart_spec.h"
 #include "chart_view.h"
@@ -38,6 +39,8 @@ public:
     static QString noOpenGlText();
     QLabel *notice() const { return notice_; }
     QAbstract3DGraph *graph() const;
+    // Where the user has turned the view (the decisions' view while nothing can draw).
+    CameraView camera() const;
 
     QWidget *widget() override { return this; }
     bool canDraw() const override { return glUsable; }

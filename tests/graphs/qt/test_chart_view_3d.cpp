@@ -4,6 +4,8 @@
 // says so and never touches the graph; on a display with OpenGL (Xvfb with Mesa) holes stay
 // empty, contours darken the surface, labels attach, and a picture of each look is written.
 
+#include <Q3DCamera>
+#include <Q3DScene>
 #include <Q3DSurface>
 #include <QDir>
 #include <QGuiApplication>
@@ -73,6 +75,7 @@ private slots:
     void contoursDarkenTheSurface();
     void labelsAttachToGridPoints();
     void screenshotsOfTheLooks();
+    void theCameraFollowsTheViewAndReadsBack();
 };
 
 void ChartView3DTest::withoutOpenGlTheChartSaysSo() {
@@ -178,6 +181,27 @@ void ChartView3DTest::screenshotsOfTheLooks() {
                     .save(QStringLiteral(QUINDAR_BUILD_DIR "screens/graph3d_%1.png")
                               .arg(QLatin1String(shot.name))));
     }
+}
+
+void ChartView3DTest::theCameraFollowsTheViewAndReadsBack() {
+    if (Offscreen()) QSKIP("3-D needs OpenGL (run under Xvfb)");
+    ChartView3D view;
+    ChartSpec3D spec = Look(true, true, false, false, false);
+    spec.zRotation = 300;
+    spec.xRotation = 40;
+    spec.scale = 1.5f;
+    view.apply(spec);
+    view.setData(Saddle());
+    const CameraView camera = view.camera();
+    QCOMPARE(camera.xRotation, -60.0f);
+    QCOMPARE(camera.yRotation, 40.0f);
+    QCOMPARE(camera.zoom, 150.0f);
+    // The user turns the chart: the view read back is the turned one.
+    view.graph()->scene()->activeCamera()->setXRotation(30.0f);
+    const GraphView3D turned = view_from_camera(view.camera());
+    QCOMPARE(turned.zRotation, 30.0f);
+    QCOMPARE(turned.xRotation, 40.0f);
+    QCOMPARE(turned.scale, 1.5f);
 }
 
 QTEST_MAIN(ChartView3DTest)
