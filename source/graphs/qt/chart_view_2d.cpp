@@ -96,7 +96,8 @@ void set_axis_range(QAbstractAxis *axis, double low, double high, bool room) {
         values->setRange(low - 1, high + 1);
         return;
     }
-    const double pad = room ? (high - low) * 0.05 : 0.0;
+    // A little room on the horizontal too, so markers at the ends are whole.
+    const double pad = (high - low) * (room ? 0.05 : 0.02);
     values->setRange(low - pad, high + pad);
     if (room) {
         values->applyNiceNumbers();
@@ -187,7 +188,7 @@ void ChartView2D::rebuild() {
     chart->setBackgroundRoundness(0);
     chart->setMargins(QMargins(margin(spec_.marginLeft), margin(spec_.marginTop),
                                margin(spec_.marginRight), margin(spec_.marginBottom)));
-    chart->legend()->setAlignment(Qt::AlignRight);
+    chart->legend()->setAlignment(Qt::AlignBottom);
     QChart *old = chart_;
     chart_ = chart;
     view_->setChart(chart);
