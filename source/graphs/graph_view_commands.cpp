@@ -34,7 +34,41 @@ void step_margins(GraphData &graph, const ChartSpec2D &shown, int delta) {
     graph.MarginRight2D = shown_margin(shown.marginRight) + delta;
 }
 
+void set_default_margins(GraphData &graph) {
+    graph.MarginBottom2D = graph.DefaultMarginBottom2D;
+    graph.MarginTop2D = graph.DefaultMarginTop2D;
+    graph.MarginLeft2D = graph.DefaultMarginLeft2D;
+    graph.MarginRight2D = graph.DefaultMarginRight2D;
+}
+
+void save_default_margins(GraphData &graph, const ChartSpec2D &shown) {
+    graph.DefaultMarginBottom2D = shown_margin(shown.marginBottom);
+    graph.DefaultMarginTop2D = shown_margin(shown.marginTop);
+    graph.DefaultMarginLeft2D = shown_margin(shown.marginLeft);
+    graph.DefaultMarginRight2D = shown_margin(shown.marginRight);
+}
+
+void set_default_orientation(GraphData &graph) {
+    graph.Inclination2D = graph.DefaultInclination2D;
+    graph.Rotation2D = graph.DefaultRotation2D;
+    set_default_margins(graph);
+}
+
+void save_default_orientation(GraphData &graph, const ChartSpec2D &shown) {
+    graph.DefaultInclination2D = shown.inclination;
+    graph.DefaultRotation2D = shown.rotation;
+    save_default_margins(graph, shown);
+}
+
 void copy_view_fields(const GraphData &from, GraphData &to) {
+    to.Inclination2D = from.Inclination2D;
+    to.Rotation2D = from.Rotation2D;
+    to.DefaultInclination2D = from.DefaultInclination2D;
+    to.DefaultRotation2D = from.DefaultRotation2D;
+    to.DefaultMarginBottom2D = from.DefaultMarginBottom2D;
+    to.DefaultMarginTop2D = from.DefaultMarginTop2D;
+    to.DefaultMarginLeft2D = from.DefaultMarginLeft2D;
+    to.DefaultMarginRight2D = from.DefaultMarginRight2D;
     to.XAxisLogarithmic = from.XAxisLogarithmic;
     to.YAxisLogarithmic = from.YAxisLogarithmic;
     to.ShowGridLines = from.ShowGridLines;

@@ -21,6 +21,14 @@ int toggle_log_axis(GraphData &graph, bool xAxis);
 void toggle_grid_lines(GraphData &graph);
 // The four margins as the chart shows them (spec), each changed by delta; no lower bound.
 void step_margins(GraphData &graph, const ChartSpec2D &shown, int delta);
+// The margins back to the graph's default margins.
+void set_default_margins(GraphData &graph);
+// The margins the chart shows become the graph's default margins.
+void save_default_margins(GraphData &graph, const ChartSpec2D &shown);
+// Inclination, rotation and margins back to their defaults (the depth stays the graph's own).
+void set_default_orientation(GraphData &graph);
+// The chart's inclination, rotation and margins become the defaults.
+void save_default_orientation(GraphData &graph, const ChartSpec2D &shown);
 // Copies the view fields these commands change from one graph to another.
 void copy_view_fields(const GraphData &from, GraphData &to);
 

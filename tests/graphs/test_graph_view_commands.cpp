@@ -2,6 +2,8 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 #include <gtest/gtest.h>
 
+#include <string>
+
 #include "graph_messages.h"
 #include "graph_view_commands.h"
 
@@ -73,6 +75,44 @@ TEST(GraphViewCommands, GridLinesToggleAndViewFieldsCopy) {
     EXPECT_EQ(other.MarginLeft2D, 70);
     toggle_grid_lines(graph);
     EXPECT_EQ(graph.ShowGridLines, 1);
+}
+
+TEST(GraphViewCommands, DefaultMarginsAndOrientationGoBothWays) {
+    GraphData graph("G");
+    graph.DefaultMarginBottom2D = 5;
+    graph.DefaultMarginTop2D = 6;
+    graph.DefaultMarginLeft2D = 7;
+    graph.DefaultMarginRight2D = 0;
+    graph.DefaultInclination2D = 12;
+    graph.DefaultRotation2D = 33;
+    graph.Inclination2D = 1;
+    graph.MarginTop2D = 99;
+    set_default_orientation(graph);
+    EXPECT_EQ(graph.Inclination2D, 12);
+    EXPECT_EQ(graph.Rotation2D, 33);
+    EXPECT_EQ(graph.MarginBottom2D, 5);
+    EXPECT_EQ(graph.MarginTop2D, 6);
+    EXPECT_EQ(graph.MarginLeft2D, 7);
+    EXPECT_EQ(graph.MarginRight2D, 0);
+
+    ChartSpec2D shown;
+    shown.inclination = 0;
+    shown.rotation = 0;
+    shown.marginBottom = {0, true};
+    shown.marginTop = {-15, false};
+    shown.marginLeft = {45, false};
+    shown.marginRight = {20, false};
+    save_default_orientation(graph, shown);
+    EXPECT_EQ(graph.DefaultInclination2D, 0);
+    EXPECT_EQ(graph.DefaultRotation2D, 0);
+    EXPECT_EQ(graph.DefaultMarginBottom2D, 20);  // automatic, as the chart shows it
+    EXPECT_EQ(graph.DefaultMarginTop2D, -15);
+    EXPECT_EQ(graph.DefaultMarginLeft2D, 45);
+    graph.MarginLeft2D = 0;
+    set_default_margins(graph);
+    EXPECT_EQ(graph.MarginLeft2D, 45);
+    EXPECT_EQ(std::string(graph_message(kMsgMarginsSaved)),
+              "The current margins have been saved as the default");
 }
 
 }  // namespace

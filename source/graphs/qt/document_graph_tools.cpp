@@ -110,7 +110,11 @@ public:
             case command::kLogarithmicY:
             case command::kGridLines:
             case command::kIncreaseMargins:
-            case command::kDecreaseMargins: {
+            case command::kDecreaseMargins:
+            case command::kSetDefaultMargins:
+            case command::kSaveAsDefaultMargins:
+            case command::kSetDefaultOrientation:
+            case command::kSaveAsDefaultOrientation: {
                 const GraphData *graph = GraphShowing() ? pane->Shown2D() : nullptr;
                 state.enabled = graph != nullptr && !pane->Building();
                 if (graph != nullptr && id == command::kLogarithmicX)
@@ -131,6 +135,7 @@ public:
     void ChangeView(int id) {
         GraphData *graph = pane->Shown2D();
         if (graph == nullptr || pane->Building()) return;
+        int saved = 0;
         switch (id) {
             case command::kLogarithmicX:
             case command::kLogarithmicY:
@@ -145,6 +150,20 @@ public:
             case command::kGridLines:
                 toggle_grid_lines(*graph);
                 break;
+            case command::kSetDefaultMargins:
+                set_default_margins(*graph);
+                break;
+            case command::kSetDefaultOrientation:
+                set_default_orientation(*graph);
+                break;
+            case command::kSaveAsDefaultMargins:
+                save_default_margins(*graph, pane->Chart2D().spec());
+                saved = kMsgMarginsSaved;
+                break;
+            case command::kSaveAsDefaultOrientation:
+                save_default_orientation(*graph, pane->Chart2D().spec());
+                saved = kMsgOrientationSaved;
+                break;
             default:
                 step_margins(*graph, pane->Chart2D().spec(),
                              id == command::kIncreaseMargins ? kMarginStep : -kMarginStep);
@@ -155,6 +174,12 @@ public:
             if (stored->Name == graph->Name) copy_view_fields(*graph, *stored);
         document.MarkGraphsChanged();
         pane->Redraw(document.Engine().angle_mode);
+        if (saved != 0) {
+            const std::string_view text = graph_message(saved);
+            workbench.Messages().Show(
+                pane, QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())),
+                kMsgGraphWindow, kBoxInformation);
+        }
     }
 
     bool Run(int id) {
@@ -188,6 +213,10 @@ public:
             case command::kGridLines:
             case command::kIncreaseMargins:
             case command::kDecreaseMargins:
+            case command::kSetDefaultMargins:
+            case command::kSaveAsDefaultMargins:
+            case command::kSetDefaultOrientation:
+            case command::kSaveAsDefaultOrientation:
                 ChangeView(id);
                 return true;
             default:
@@ -295,13 +324,23 @@ DocumentGraphs &GraphsOf(Workbench &workbench, DocumentWindow &document) {
     return *new DocumentGraphs(workbench, document);
 }
 
-constexpr int kGraphCommands[] = {command::kShowGraphWindow, command::kShowMathWindow,
-                                  command::kCopyGraph,       command::kPrintGraph,
-                                  command::kSaveGraphFile,   command::kOpenGraphFile,
-                                  command::kPointLabels,     command::kRemoveAllPointLabels,
-                                  command::kLogarithmicX,    command::kLogarithmicY,
-                                  command::kGridLines,       command::kIncreaseMargins,
-                                  command::kDecreaseMargins};
+constexpr int kGraphCommands[] = {command::kShowGraphWindow,
+                                  command::kShowMathWindow,
+                                  command::kCopyGraph,
+                                  command::kPrintGraph,
+                                  command::kSaveGraphFile,
+                                  command::kOpenGraphFile,
+                                  command::kPointLabels,
+                                  command::kRemoveAllPointLabels,
+                                  command::kLogarithmicX,
+                                  command::kLogarithmicY,
+                                  command::kGridLines,
+                                  command::kIncreaseMargins,
+                                  command::kDecreaseMargins,
+                                  command::kSetDefaultMargins,
+                                  command::kSaveAsDefaultMargins,
+                                  command::kSetDefaultOrientation,
+                                  command::kSaveAsDefaultOrientation};
 
 }  // namespace
 

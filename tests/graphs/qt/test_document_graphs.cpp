@@ -214,6 +214,13 @@ void DocumentGraphsTest::viewCommandsChangeTheGraphAndTheDocument() {
     QVERIFY(router.Execute(command::kDecreaseMargins));
     QVERIFY(router.Execute(command::kDecreaseMargins));
     QCOMPARE(pane.Chart2D().chart()->margins(), QMargins(-5, -5, -5, -5));
+    harness.boxes.Expect(QStringLiteral("The current margins have been saved as the default"),
+                         kIdOk);
+    QVERIFY(router.Execute(command::kSaveAsDefaultMargins));
+    QCOMPARE(stored.DefaultMarginTop2D, -5);
+    QVERIFY(router.Execute(command::kIncreaseMargins));
+    QVERIFY(router.Execute(command::kSetDefaultMargins));
+    QCOMPARE(pane.Chart2D().chart()->margins(), QMargins(-5, -5, -5, -5));
 
     QVERIFY(router.Execute(command::kLogarithmicY));
     QCOMPARE(stored.YAxisLogarithmic, 1);
