@@ -16,6 +16,7 @@
 #include <limits>
 
 #include "chart_camera.h"
+#include "chart_input_handler.h"
 #include "chart_looks.h"
 #include "surface_levels.h"
 
@@ -86,6 +87,13 @@ bool ChartView3D::makeGraph(bool bars) {
         made = surface_ = new Q3DSurface;
     // Without a context every later call of the graph would crash: it is never shown.
     glUsable = made->hasContext();
+    if (glUsable) {
+        auto *handler = new ChartInputHandler(made);
+        made->setActiveInputHandler(handler);
+        connect(handler, &ChartInputHandler::popupRequested, this, [this](QPoint at) {
+            emit popupRequested(container_ != nullptr ? container_->mapTo(this, at) : at);
+        });
+    }
     container_ = QWidget::createWindowContainer(made, this);
     container_->setAccessibleName(tr("3-D chart"));
     stack_->addWidget(container_);

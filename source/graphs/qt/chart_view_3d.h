@@ -59,6 +59,8 @@ signals:
     // The chart picked grid point (ix, iz): a click on the surface or a bar, answered a frame
     // after the click.
     void picked(int ix, int iz);
+    // The right button on the chart, at this position of the widget.
+    void popupRequested(QPoint position);
 
 private:
     void rebuild();

@@ -83,6 +83,9 @@ void GraphPane::Show3D(const ChartSpec3D &spec, const ChartGrid3D &grid) {
         chart3D = new ChartView3D(this);
         stack->addWidget(chart3D);
         connect(chart3D, &ChartView3D::picked, this, &GraphPane::Toggle3DLabel);
+        // The chart's window takes the right button itself: its pop-up is the pane's.
+        connect(chart3D, &ChartView3D::popupRequested, this,
+                [this](QPoint at) { emit customContextMenuRequested(chart3D->mapTo(this, at)); });
     }
     chart3D->removeAllLabels();
     chart3D->apply(spec);

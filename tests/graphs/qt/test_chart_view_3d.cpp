@@ -14,6 +14,7 @@
 #include <QtTest>
 #include <cmath>
 
+#include "chart_input_handler.h"
 #include "chart_view_3d.h"
 
 using namespace quindar;
@@ -76,6 +77,7 @@ private slots:
     void labelsAttachToGridPoints();
     void screenshotsOfTheLooks();
     void theCameraFollowsTheViewAndReadsBack();
+    void theRightButtonAsksForThePopUp();
 };
 
 void ChartView3DTest::withoutOpenGlTheChartSaysSo() {
@@ -202,6 +204,30 @@ void ChartView3DTest::theCameraFollowsTheViewAndReadsBack() {
     QCOMPARE(turned.zRotation, 30.0f);
     QCOMPARE(turned.xRotation, 40.0f);
     QCOMPARE(turned.scale, 1.5f);
+}
+
+void ChartView3DTest::theRightButtonAsksForThePopUp() {
+    if (Offscreen()) QSKIP("3-D needs OpenGL (run under Xvfb)");
+    ChartView3D view;
+    view.apply(Look(true, true, false, false, false));
+    view.setData(Saddle());
+    auto *handler = qobject_cast<ChartInputHandler *>(view.graph()->activeInputHandler());
+    QVERIFY(handler != nullptr);
+    QSignalSpy popups(&view, &ChartView3D::popupRequested);
+    QMouseEvent right(QEvent::MouseButtonPress, QPointF(30, 40), QPointF(30, 40), QPointF(30, 40),
+                      Qt::RightButton, Qt::RightButton, Qt::NoModifier);
+    handler->mousePressEvent(&right, QPoint(30, 40));
+    QCOMPARE(popups.size(), 1);
+    QCOMPARE(handler->inputView(), QAbstract3DInputHandler::InputViewNone);
+    QMouseEvent shiftLeft(QEvent::MouseButtonPress, QPointF(30, 40), QPointF(30, 40),
+                          QPointF(30, 40), Qt::LeftButton, Qt::LeftButton, Qt::ShiftModifier);
+    handler->mousePressEvent(&shiftLeft, QPoint(30, 40));
+    const float before = view.camera().xRotation;
+    QMouseEvent move(QEvent::MouseMove, QPointF(130, 40), QPointF(130, 40), QPointF(130, 40),
+                     Qt::NoButton, Qt::LeftButton, Qt::ShiftModifier);
+    handler->mouseMoveEvent(&move, QPoint(130, 40));
+    QVERIFY2(view.camera().xRotation != before, "Shift with the left button turns the view");
+    QCOMPARE(popups.size(), 1);
 }
 
 QTEST_MAIN(ChartView3DTest)
