@@ -11,11 +11,13 @@
 #include <QPrinter>
 #include <span>
 #include <sstream>
+#include <utility>
 
 #include "chart_view.h"
 #include "chart_view_2d.h"
 #include "command_table.h"
 #include "document_window.h"
+#include "graph_builder.h"
 #include "graph_messages.h"
 #include "graph_pane.h"
 #include "graph_view_commands.h"
@@ -61,6 +63,7 @@ public:
             return activity;
         };
         doc.toolState = [this](int id, CommandState &state) { return State(id, state); };
+        doc.paneCaption = [this] { return GraphShowing() ? caption : QString(); };
         pane->setContextMenuPolicy(Qt::CustomContextMenu);
         connect(pane, &QWidget::customContextMenuRequested, this, [this](QPoint at) {
             QMenu *menu = make_graph_popup(workbench, pane);
@@ -230,6 +233,21 @@ public:
         document.TextPane().hide();
         pane->show();
         pane->setFocus();
+        CaptionChanged();
+    }
+
+    // The document's own caption, whatever pane shows.
+    QString TextCaption() const {
+        const auto saved = std::exchange(document.paneCaption, {});
+        const QString text = document.Caption();
+        document.paneCaption = saved;
+        return text;
+    }
+
+    void CaptionChanged() {
+        document.setWindowTitle(document.Caption());
+        document.setAccessibleName(document.Caption());
+        emit document.captionChanged();
     }
 
     // To the graph: the current graph is built unless the pane already shows it.
@@ -245,6 +263,9 @@ public:
                                            kBoxWarning);
         };
         output.play_sound = [this](std::string_view wave) { workbench.PlaySound(wave); };
+        caption = QString::fromStdString(
+            graph_window_caption(TextCaption().toStdString(), content.currentGraph->Name));
+        CaptionChanged();
         pane->Build(document.Engine(), *content.currentGraph, &content.graphs, output);
     }
 
@@ -258,6 +279,7 @@ public:
         pane->hide();
         document.TextPane().show();
         document.TextPane().setFocus();
+        CaptionChanged();
         return true;
     }
 
@@ -309,12 +331,17 @@ public:
             read_graph_defaults(workbench.Folders().settingsPath.c_str());
         ShowPane();
         // An unreadable file leaves the pane as it was, as the chart did: no message.
-        pane->OpenFile(path, defaults, document.Engine().angle_mode, error);
+        if (pane->OpenFile(path, defaults, document.Engine().angle_mode, error)) {
+            caption = QString::fromStdString(path).toUpper();
+            CaptionChanged();
+        }
     }
 
     Workbench &workbench;
     DocumentWindow &document;
     GraphPane *pane;
+    // The graph pane's caption: "EDITOR : GRAPH" after a build, the path of an opened file.
+    QString caption;
 };
 
 DocumentGraphs &GraphsOf(Workbench &workbench, DocumentWindow &document) {

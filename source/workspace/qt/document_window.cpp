@@ -131,6 +131,8 @@ bool DocumentWindow::eventFilter(QObject *watched, QEvent *event) {
 }
 
 QString DocumentWindow::Caption() const {
+    if (paneCaption)
+        if (const QString pane = paneCaption(); !pane.isEmpty()) return pane;
     const std::string name = ui_string(kStrMathEditor).toStdString();
     return FromBytes(path.empty() ? untitled_caption(number, name) : file_caption(name, path));
 }

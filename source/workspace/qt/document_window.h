@@ -41,6 +41,9 @@ public:
     DocumentContent &Content() { return content; }
 
     DocumentChanges Changes() const;
+    // The caption while another pane stands in for the text (the graph pane); empty for the
+    // document's own. Whoever sets it emits captionChanged when it changes.
+    std::function<QString()> paneCaption;
     // A graph of the document changed outside the text (the graph window's view commands).
     void MarkGraphsChanged();
     bool IsDirty() const { return document_dirty(Changes()); }

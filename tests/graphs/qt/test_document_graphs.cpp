@@ -84,6 +84,7 @@ void DocumentGraphsTest::graphCommandBuildsAndSwapsBackKeepingTheText() {
     GraphPane &pane = document_graph_pane(harness.Bench(), document);
     QVERIFY(!pane.isHidden());
     QVERIFY(document.TextPane().isHidden());
+    QCOMPARE(document.Caption(), QStringLiteral("1 - MATH EDITOR : G"));
     const ChartView2D &chart = pane.Chart2D();
     QVERIFY(chart.data().has_value());
     QCOMPARE(chart.data()->points(), 41);
@@ -104,6 +105,7 @@ void DocumentGraphsTest::graphCommandBuildsAndSwapsBackKeepingTheText() {
     QVERIFY(pane.isHidden());
     QVERIFY(!document.TextPane().isHidden());
     QCOMPARE(document.TextPane().toPlainText(), QStringLiteral("a=1\nkept text"));
+    QCOMPARE(document.Caption(), QStringLiteral("1 - MATH EDITOR"));
     QVERIFY(document.CommandEnabler(command::kCopyGraph, state));
     QVERIFY(!state.enabled);
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
