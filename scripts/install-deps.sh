@@ -8,6 +8,7 @@ packages=(
     libintelrdfpmath-dev libmpfr-dev libgmp-dev
     libgtest-dev libbenchmark-dev libmuparser-dev ccache
     qt6-base-dev qt6-svg-dev qt6-multimedia-dev qt6-qpa-plugins libgl-dev librsvg2-bin
+    qt6-charts-dev qt6-datavisualization-dev libqt6opengl6-dev qt6-declarative-dev
     xvfb xauth xdotool fonts-dejavu-core fonts-liberation poppler-utils shared-mime-info
 )
 

@@ -33,6 +33,10 @@ constexpr GraphMessage kMessages[] = {
      "The X data point values must be equal to use any graph type other than \"Plot\", "
      "\"Line\", \"Area\", \"Polar\" and \"Scatter\" types. Try using one of these 5 types."},
     {kMsgGraphWindow, "Graph Window"},
+    {kMsgOrientationSaved,
+     "The current rotation, inclination and margins have been saved as the default orientation."},
+    {kMsgRotationSaved, "The current x,y,z rotation has been saved as the default orientation."},
+    {kMsgMarginsSaved, "The current margins have been saved as the default"},
     {kMsgNoLogX,
      "Logrithmic X-Axis is only supported for \"Plot\", \"Area\", \"Scatter\", \"HiLo\", "
      "\"HiLoOpenClose\", and \"Candle\" graph types"},

@@ -21,6 +21,9 @@ inline constexpr int kMsgOpenGraphFileError = 25105;
 inline constexpr int kMsgIncompatibleFileType = 24910;
 inline constexpr int kMsgSharedXOnly = 24906;
 inline constexpr int kMsgGraphWindow = 25101;
+inline constexpr int kMsgOrientationSaved = 25102;
+inline constexpr int kMsgRotationSaved = 25103;
+inline constexpr int kMsgMarginsSaved = 25108;
 inline constexpr int kMsgNoLogX = 25106;
 inline constexpr int kMsgNoLogY = 25107;
 

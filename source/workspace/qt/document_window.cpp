@@ -139,6 +139,8 @@ bool DocumentWindow::eventFilter(QObject *watched, QEvent *event) {
 }
 
 QString DocumentWindow::Caption() const {
+    if (paneCaption)
+        if (const QString pane = paneCaption(); !pane.isEmpty()) return pane;
     const std::string name = ui_string(kStrMathEditor).toStdString();
     return FromBytes(path.empty() ? untitled_caption(number, name) : file_caption(name, path));
 }
@@ -217,6 +219,11 @@ bool DocumentWindow::SaveAs() {
     return true;
 }
 
+void DocumentWindow::MarkGraphsChanged() {
+    graphsChanged = true;
+    emit stateChanged();
+}
+
 bool DocumentWindow::CanClose() {
     if (closeChecked) return true;
     const DocumentChanges changes = Changes();
@@ -255,6 +262,7 @@ bool DocumentWindow::CanClose() {
 }
 
 bool DocumentWindow::CommandEnabler(int id, CommandState &state) {
+    if (toolState && toolState(id, state)) return true;
     if (panes->CommandEnabler(id, state)) return true;
     switch (id) {
         case command::kFileSave:

@@ -47,6 +47,11 @@ public:
     void ApplyFont(const DocumentFont &font);
 
     DocumentChanges Changes() const;
+    // The caption while another pane stands in for the text (the graph pane); empty for the
+    // document's own. Whoever sets it emits captionChanged when it changes.
+    std::function<QString()> paneCaption;
+    // A graph of the document changed outside the text (the graph window's view commands).
+    void MarkGraphsChanged();
     bool IsDirty() const { return document_dirty(Changes()); }
     // A tool window changed the settings the document keeps (Options, the calculus pages'
     // boxes): it asks to be saved.
@@ -57,6 +62,9 @@ public:
     // What the document is busy with; nothing computes yet, so this stays idle until the
     // graph and calculus windows report through it.
     std::function<DocumentActivity()> activity;
+    // The states of the commands that the document's tool windows answer (the graph pane),
+    // asked before the document's own; false for an id they leave alone.
+    std::function<bool(int id, CommandState &state)> toolState;
 
     // Save: to its file, or through Save As when it has none. True when saved.
     bool Save();

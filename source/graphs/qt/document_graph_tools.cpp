@@ -1,0 +1,412 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Quindar developers
+#include "document_graph_tools.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QLayout>
+#include <QMenu>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <span>
+#include <sstream>
+#include <utility>
+
+#include "chart_view.h"
+#include "chart_view_2d.h"
+#include "command_table.h"
+#include "document_window.h"
+#include "graph_builder.h"
+#include "graph_messages.h"
+#include "graph_pane.h"
+#include "graph_view_commands.h"
+#include "ini_graph_settings.h"
+#include "math_editor_widget.h"
+#include "message_box_rules.h"
+#include "parser.h"
+#include "workbench.h"
+
+namespace quindar {
+namespace {
+
+// The size of the clipboard picture when the pane has not been laid out.
+constexpr QSize kDefaultImageSize(800, 600);
+
+// "You are currently building a graph, ..." under "Graph Window": the build has to stop first.
+constexpr int kRefusalText = 25109;
+void RefuseWhileBuilding(Workbench &workbench, QWidget *parent) {
+    workbench.Messages().Show(parent, kRefusalText, kMsgGraphWindow, kBoxWarning);
+}
+
+const QString kObjectName = QStringLiteral("documentGraphs");
+
+class DocumentGraphs : public QObject {
+public:
+    DocumentGraphs(Workbench &owner, DocumentWindow &doc)
+        : QObject(&doc), workbench(owner), document(doc), pane(new GraphPane(&doc)) {
+        setObjectName(kObjectName);
+        pane->setObjectName(QStringLiteral("graphPane"));
+        pane->hide();
+        doc.layout()->addWidget(pane);
+        pane->formatValue = [this](double value) {
+            std::ostringstream text;
+            complex number{value, 0};
+            document.Engine().stream_variable(number, text, 15);
+            return QString::fromStdString(text.str());
+        };
+        // The document's close asks whether anything computes.
+        auto before = doc.activity;
+        doc.activity = [this, before] {
+            DocumentActivity activity = before ? before() : DocumentActivity{};
+            activity.buildingGraph = activity.buildingGraph || pane->Building();
+            return activity;
+        };
+        doc.toolState = [this](int id, CommandState &state) { return State(id, state); };
+        doc.paneCaption = [this] { return GraphShowing() ? caption : QString(); };
+        pane->setContextMenuPolicy(Qt::CustomContextMenu);
+        connect(pane, &QWidget::customContextMenuRequested, this, [this](QPoint at) {
+            QMenu *menu = make_graph_popup(workbench, pane);
+            menu->exec(pane->mapToGlobal(at));
+            delete menu;
+        });
+        connect(pane, &GraphPane::titleEdited, this, [this](int kind, const QString &text) {
+            const GraphData *shown = pane->Shown2D();
+            const QByteArray bytes = text.toUtf8();
+            for (GraphData *stored = document.Content().graphs.gethead(); shown && stored;
+                 stored = stored->next) {
+                if (stored->Name != shown->Name) continue;
+                if (kind == 0)
+                    stored->SetHeader(bytes.constData());
+                else
+                    stored->SetFooter(bytes.constData());
+            }
+            document.MarkGraphsChanged();
+        });
+    }
+
+    GraphPane &Pane() { return *pane; }
+    bool GraphShowing() const { return !pane->isHidden(); }
+
+    bool State(int id, CommandState &state) {
+        switch (id) {
+            case command::kShowGraphWindow:
+                state.checked = GraphShowing();
+                return true;
+            case command::kShowMathWindow:
+                state.checked = !GraphShowing();
+                return true;
+            case command::kCopyGraph:
+            case command::kPrintGraph:
+            case command::kSaveGraphFile:
+                state.enabled = GraphShowing() && pane->HasChart() && !pane->Building();
+                return true;
+            case command::kPointLabels:
+                state.enabled = GraphShowing();
+                state.checked = pane->pointLabelsOn;
+                return true;
+            case command::kRemoveAllPointLabels:
+                state.enabled = GraphShowing() && pane->CurrentView() != nullptr &&
+                                pane->CurrentView()->labelCount() > 0;
+                return true;
+            case command::kLogarithmicX:
+            case command::kLogarithmicY:
+            case command::kGridLines:
+            case command::kIncreaseMargins:
+            case command::kDecreaseMargins:
+            case command::kSetDefaultMargins:
+            case command::kSaveAsDefaultMargins:
+            case command::kSetDefaultOrientation:
+            case command::kSaveAsDefaultOrientation: {
+                const GraphData *graph = GraphShowing() ? pane->Shown2D() : nullptr;
+                state.enabled = graph != nullptr && !pane->Building();
+                if (graph != nullptr && id == command::kLogarithmicX)
+                    state.checked = graph->XAxisLogarithmic != 0;
+                if (graph != nullptr && id == command::kLogarithmicY)
+                    state.checked = graph->YAxisLogarithmic != 0;
+                if (graph != nullptr && id == command::kGridLines)
+                    state.checked = graph->ShowGridLines != 0;
+                return true;
+            }
+            default:
+                return false;
+        }
+    }
+
+    // A view command on the shown graph: the working copy changes, the document's graph of
+    // the same name takes the change, and the chart is drawn again.
+    void ChangeView(int id) {
+        GraphData *graph = pane->Shown2D();
+        if (graph == nullptr || pane->Building()) return;
+        int saved = 0;
+        switch (id) {
+            case command::kLogarithmicX:
+            case command::kLogarithmicY:
+                if (const int refusal = toggle_log_axis(*graph, id == command::kLogarithmicX)) {
+                    const std::string_view text = graph_message(refusal);
+                    workbench.Messages().Show(
+                        pane, QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())),
+                        kMsgGraphWindow, kBoxWarning);
+                    return;
+                }
+                break;
+            case command::kGridLines:
+                toggle_grid_lines(*graph);
+                break;
+            case command::kSetDefaultMargins:
+                set_default_margins(*graph);
+                break;
+            case command::kSetDefaultOrientation:
+                set_default_orientation(*graph);
+                break;
+            case command::kSaveAsDefaultMargins:
+                save_default_margins(*graph, pane->Chart2D().spec());
+                saved = kMsgMarginsSaved;
+                break;
+            case command::kSaveAsDefaultOrientation:
+                save_default_orientation(*graph, pane->Chart2D().spec());
+                saved = kMsgOrientationSaved;
+                break;
+            default:
+                step_margins(*graph, pane->Chart2D().spec(),
+                             id == command::kIncreaseMargins ? kMarginStep : -kMarginStep);
+                break;
+        }
+        for (GraphData *stored = document.Content().graphs.gethead(); stored != nullptr;
+             stored = stored->next)
+            if (stored->Name == graph->Name) copy_view_fields(*graph, *stored);
+        document.MarkGraphsChanged();
+        pane->Redraw(document.Engine().angle_mode);
+        if (saved != 0) {
+            const std::string_view text = graph_message(saved);
+            workbench.Messages().Show(
+                pane, QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())),
+                kMsgGraphWindow, kBoxInformation);
+        }
+    }
+
+    bool Run(int id) {
+        switch (id) {
+            case command::kShowGraphWindow:
+                if (GraphShowing()) return ToText();
+                ToGraph();
+                return true;
+            case command::kShowMathWindow:
+                return ToText();
+            case command::kCopyGraph:
+                Copy();
+                return true;
+            case command::kPrintGraph:
+                Print();
+                return true;
+            case command::kSaveGraphFile:
+                Save();
+                return true;
+            case command::kOpenGraphFile:
+                Open();
+                return true;
+            case command::kPointLabels:
+                pane->pointLabelsOn = !pane->pointLabelsOn;
+                return true;
+            case command::kRemoveAllPointLabels:
+                if (ChartView *view = pane->CurrentView()) view->removeAllLabels();
+                return true;
+            case command::kLogarithmicX:
+            case command::kLogarithmicY:
+            case command::kGridLines:
+            case command::kIncreaseMargins:
+            case command::kDecreaseMargins:
+            case command::kSetDefaultMargins:
+            case command::kSaveAsDefaultMargins:
+            case command::kSetDefaultOrientation:
+            case command::kSaveAsDefaultOrientation:
+                ChangeView(id);
+                return true;
+            default:
+                return false;
+        }
+    }
+
+    void ShowPane() {
+        if (GraphShowing()) return;
+        workbench.PlaySound("Click.wav");
+        document.TextPane().hide();
+        pane->show();
+        pane->setFocus();
+        CaptionChanged();
+    }
+
+    // The document's own caption, whatever pane shows.
+    QString TextCaption() const {
+        const auto saved = std::exchange(document.paneCaption, {});
+        const QString text = document.Caption();
+        document.paneCaption = saved;
+        return text;
+    }
+
+    void CaptionChanged() {
+        document.setWindowTitle(document.Caption());
+        document.setAccessibleName(document.Caption());
+        emit document.captionChanged();
+    }
+
+    // To the graph: the current graph is built unless the pane already shows it.
+    void ToGraph() {
+        ShowPane();
+        DocumentContent &content = document.Content();
+        if (content.currentGraph == nullptr || pane->Building()) return;
+        if (pane->HasChart() && !content.currentGraph->NeedsData) return;
+        GraphBuildOutput output;
+        output.show_message = [this](std::string_view text, std::string_view caption) {
+            workbench.Messages().ShowPlain(pane, QString::fromUtf8(text.data(), int(text.size())),
+                                           QString::fromUtf8(caption.data(), int(caption.size())),
+                                           kBoxWarning);
+        };
+        output.play_sound = [this](std::string_view wave) { workbench.PlaySound(wave); };
+        caption = QString::fromStdString(
+            graph_window_caption(TextCaption().toStdString(), content.currentGraph->Name));
+        CaptionChanged();
+        pane->Build(document.Engine(), *content.currentGraph, &content.graphs, output);
+    }
+
+    bool ToText() {
+        if (!GraphShowing()) return true;
+        if (pane->Building()) {
+            RefuseWhileBuilding(workbench, pane);
+            return true;
+        }
+        workbench.PlaySound("Click.wav");
+        pane->hide();
+        document.TextPane().show();
+        document.TextPane().setFocus();
+        CaptionChanged();
+        return true;
+    }
+
+    void Copy() {
+        const QSize size = pane->size().isEmpty() ? kDefaultImageSize : pane->size();
+        QGuiApplication::clipboard()->setImage(pane->Image(size));
+    }
+
+    void Print() {
+        QPrinter printer(QPrinter::HighResolution);
+        QPrintDialog dialog(&printer, &document);
+        workbench.runDialog(dialog);
+        if (dialog.result() != QDialog::Accepted) return;
+        QPainter painter(&printer);
+        const QRect page = printer.pageLayout().paintRectPixels(printer.resolution());
+        pane->Print(painter, QRect(QPoint(0, 0), page.size()));
+    }
+
+    void Save() {
+        const std::string extension = pane->FileExtension();
+        const bool twoD = extension == ".g2d";
+        const QString filter =
+            twoD ? QStringLiteral("Graph Files(*.g2d)") : QStringLiteral("Graph Files(*.g3d)");
+        QString path =
+            workbench.chooseSaveFile(&document, QStringLiteral("Save Graph As"), QString(), filter);
+        if (path.isEmpty()) return;
+        if (graph_file_kind(path.toStdString()) == 0) path += QString::fromStdString(extension);
+        std::string error;
+        if (!pane->SaveFile(path.toStdString(), error))
+            workbench.Messages().ShowPlain(&document, QString::fromStdString(error),
+                                           QStringLiteral("Save Graph As"), kBoxWarning);
+    }
+
+    void Open() {
+        const QStringList chosen = workbench.chooseOpenFiles(
+            &document, QStringLiteral("Open Graph File"),
+            QString::fromStdString(workbench.Folders().userDataDir),
+            QStringLiteral("Graph Files(*.g2d);;Graph Files(*.g3d);;All Files (*.*)"));
+        if (chosen.isEmpty()) return;
+        const std::string path = chosen.front().toStdString();
+        if (graph_file_kind(path) == 0) {
+            workbench.Messages().ShowPlain(
+                &document, QString::fromUtf8(graph_message(kMsgNotAGraphFile).data()),
+                QString::fromUtf8(graph_message(kMsgOpenGraphFileError).data()), kBoxWarning);
+            return;
+        }
+        std::string error;
+        const GraphDefaults defaults =
+            read_graph_defaults(workbench.Folders().settingsPath.c_str());
+        ShowPane();
+        // An unreadable file leaves the pane as it was, as the chart did: no message.
+        if (pane->OpenFile(path, defaults, document.Engine().angle_mode, error)) {
+            caption = QString::fromStdString(path).toUpper();
+            CaptionChanged();
+        }
+    }
+
+    Workbench &workbench;
+    DocumentWindow &document;
+    GraphPane *pane;
+    // The graph pane's caption: "EDITOR : GRAPH" after a build, the path of an opened file.
+    QString caption;
+};
+
+DocumentGraphs &GraphsOf(Workbench &workbench, DocumentWindow &document) {
+    // Found by name: the class has no meta-object of its own to be cast by.
+    if (QObject *graphs = document.findChild<QObject *>(kObjectName, Qt::FindDirectChildrenOnly))
+        return *static_cast<DocumentGraphs *>(graphs);
+    return *new DocumentGraphs(workbench, document);
+}
+
+constexpr int kGraphCommands[] = {command::kShowGraphWindow,
+                                  command::kShowMathWindow,
+                                  command::kCopyGraph,
+                                  command::kPrintGraph,
+                                  command::kSaveGraphFile,
+                                  command::kOpenGraphFile,
+                                  command::kPointLabels,
+                                  command::kRemoveAllPointLabels,
+                                  command::kLogarithmicX,
+                                  command::kLogarithmicY,
+                                  command::kGridLines,
+                                  command::kIncreaseMargins,
+                                  command::kDecreaseMargins,
+                                  command::kSetDefaultMargins,
+                                  command::kSaveAsDefaultMargins,
+                                  command::kSetDefaultOrientation,
+                                  command::kSaveAsDefaultOrientation};
+
+}  // namespace
+
+QMenu *make_graph_popup(Workbench &workbench, QWidget *parent) {
+    auto *menu = new QMenu(parent);
+    menu->setAccessibleName(QStringLiteral("Graph menu"));
+    CommandRouter &router = workbench.Router();
+    const auto fill = [&router](QMenu &target, std::span<const int> items,
+                                const auto &self) -> void {
+        for (const int item : items) {
+            if (item == command::kSeparator) {
+                target.addSeparator();
+            } else if (item < 0) {
+                const MenuSpec &sub = submenus()[static_cast<std::size_t>(-1 - item)];
+                QMenu *inner = target.addMenu(QString::fromUtf8(sub.title));
+                self(*inner, sub.items, self);
+            } else {
+                target.addAction(router.PopupAction(item, &target));
+            }
+        }
+    };
+    for (const MenuSpec &bar : menu_bar())
+        if (QString::fromUtf8(bar.title) == QStringLiteral("&Graph")) fill(*menu, bar.items, fill);
+    menu->addSeparator();
+    menu->addAction(router.PopupAction(command::kShowMathWindow, menu));
+    return menu;
+}
+
+GraphPane &document_graph_pane(Workbench &workbench, DocumentWindow &document) {
+    return GraphsOf(workbench, document).Pane();
+}
+
+void install_graph_tools(Workbench &workbench) {
+    auto before = workbench.documentTools;
+    workbench.documentTools = [&workbench, before](DocumentWindow &document, int id) {
+        for (int graphCommand : kGraphCommands)
+            if (graphCommand == id) return GraphsOf(workbench, document).Run(id);
+        return before ? before(document, id) : true;
+    };
+}
+
+}  // namespace quindar

@@ -1,0 +1,265 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Quindar developers
+#include "graph_pane.h"
+
+#include <QLineEdit>
+#include <QPainter>
+#include <QStackedLayout>
+#include <utility>
+
+#include "chart_camera.h"
+#include "chart_runs.h"
+#include "chart_spec.h"
+#include "chart_view_2d.h"
+#include "chart_view_3d.h"
+#include "graph_compute_host.h"
+#include "graph_layout.h"
+#include "graph_messages.h"
+#include "graph_progress_dialog.h"
+
+namespace quindar {
+namespace {
+
+// The longest header or footer the editor takes.
+constexpr int kTitleLimit = 512;
+
+}  // namespace
+
+GraphPane::GraphPane(QWidget *parent)
+    : QWidget(parent), stack(new QStackedLayout(this)), chart2D(new ChartView2D(this)) {
+    setAccessibleName(tr("Graph pane"));
+    stack->addWidget(chart2D);
+    connect(chart2D, &ChartView2D::clicked, this, &GraphPane::Click);
+    connect(chart2D, &ChartView2D::doubleClicked, this, &GraphPane::DoubleClick);
+    formatValue = [](double value) { return QString::number(value, 'g', 15); };
+}
+
+GraphPane::~GraphPane() = default;
+
+bool GraphPane::Build(Parser &parser, const GraphData &graph, GraphList *list,
+                      const GraphBuildOutput &output) {
+    if (building) return false;
+    GraphData work(graph);
+    if (work.GetGraphType() == kGraph2D) work.DataLayout = decide_data_layout(parser, work);
+
+    GraphProgressDialog dialog(window());
+    dialog.setWindowTitle(QString::fromStdString(work.Name));
+    dialog.show();
+    GraphComputeHost host(&dialog, this, pumpMilliseconds);
+    ComputeHost *before = parser.get_compute_host();
+    parser.set_computation_hooks(&host);
+    progress = &dialog;
+    building = true;
+    GraphBuilder builder(parser, work, output);
+    const bool complete = builder.Build(list);
+    building = false;
+    progress = nullptr;
+    parser.set_computation_hooks(before);
+
+    // A cancelled build still shows what it computed.
+    file2D.reset();
+    file3D.reset();
+    data2D = builder.Data2D;
+    data3D = builder.Data3D;
+    shownGraph = work;
+    chart2D->removeAllLabels();
+    if (data2D) {
+        chart2D->apply(chart_spec_2d(work, parser.angle_mode));
+        chart2D->setData(*data2D);
+        stack->setCurrentWidget(chart2D);
+    } else if (data3D) {
+        Show3D(chart_spec_3d(work), *data3D);
+    }
+    emit built();
+    return complete;
+}
+
+void GraphPane::Redraw(int angleMode) {
+    if (GraphData *graph = Shown2D()) chart2D->apply(chart_spec_2d(*graph, angleMode));
+}
+
+void GraphPane::Show3D(const ChartSpec3D &spec, const ChartGrid3D &grid) {
+    if (chart3D == nullptr) {
+        chart3D = new ChartView3D(this);
+        stack->addWidget(chart3D);
+        connect(chart3D, &ChartView3D::picked, this, &GraphPane::Toggle3DLabel);
+        // The chart's window takes the right button itself: its pop-up is the pane's.
+        connect(chart3D, &ChartView3D::popupRequested, this,
+                [this](QPoint at) { emit customContextMenuRequested(chart3D->mapTo(this, at)); });
+    }
+    chart3D->removeAllLabels();
+    chart3D->apply(spec);
+    chart3D->setData(grid);
+    stack->setCurrentWidget(chart3D);
+}
+
+QString GraphPane::Notice() const {
+    const bool shows3D = chart3D != nullptr && stack->currentWidget() == chart3D;
+    return shows3D && !chart3D->canDraw() ? ChartView3D::noOpenGlText() : QString();
+}
+
+bool GraphPane::OpenFile(const std::string &path, const GraphDefaults &defaults, int angleMode,
+                         std::string &error) {
+    std::string text;
+    if (!load_graph_file_text(path, text, error)) return false;
+    const int kind = graph_file_kind(path);
+    if (kind == 1) {
+        GraphFile2D file;
+        if (!parse_graph_file(text, defaults, file, error)) return false;
+        chart2D->removeAllLabels();
+        chart2D->apply(chart_spec_2d(file, angleMode));
+        chart2D->setData(file.data);
+        stack->setCurrentWidget(chart2D);
+        file2D = std::move(file);
+        file3D.reset();
+    } else if (kind == 2) {
+        GraphFile3D file;
+        if (!parse_graph_file(text, defaults, file, error)) return false;
+        Show3D(chart_spec_3d(file), file.grid);
+        file3D = std::move(file);
+        file2D.reset();
+    } else {
+        error = graph_message(kMsgNotAGraphFile);
+        return false;
+    }
+    shownGraph.reset();
+    data2D.reset();
+    data3D.reset();
+    return true;
+}
+
+bool GraphPane::HasChart() const {
+    return data2D || data3D || file2D || file3D;
+}
+
+std::string GraphPane::FileExtension() const {
+    if (data2D || file2D) return ".g2d";
+    if (data3D || file3D) return ".g3d";
+    return {};
+}
+
+bool GraphPane::SaveFile(const std::string &path, std::string &error) const {
+    // A 3-D file keeps the view as the user turned it.
+    const std::optional<GraphView3D> turned =
+        chart3D != nullptr && (data3D || file3D)
+            ? std::optional<GraphView3D>(view_from_camera(chart3D->camera()))
+            : std::nullopt;
+    std::string text;
+    if (file2D) {
+        text = graph_file_text(*file2D);
+    } else if (file3D) {
+        GraphFile3D file = *file3D;
+        if (turned) {
+            file.view[1] = turned->xRotation;
+            file.view[3] = turned->zRotation;
+            file.view[4] = turned->xTranslate;
+            file.view[5] = turned->yTranslate;
+            file.view[6] = turned->scale;
+        }
+        text = graph_file_text(file);
+    } else if (shownGraph && data2D) {
+        text = graph_file_text(make_graph_file_2d(*shownGraph, *data2D));
+    } else if (shownGraph && data3D) {
+        GraphData graph = *shownGraph;
+        if (turned) {
+            graph.XRotation = turned->xRotation;
+            graph.ZRotation = turned->zRotation;
+            graph.XTranslate = turned->xTranslate;
+            graph.YTranslate = turned->yTranslate;
+            graph.Scale = turned->scale;
+        }
+        text = graph_file_text(make_graph_file_3d(graph, *data3D));
+    } else {
+        error = "no graph";
+        return false;
+    }
+    return save_graph_file(path, text, error);
+}
+
+ChartView *GraphPane::CurrentView() const {
+    if (stack->currentWidget() == chart2D) return data2D || file2D ? chart2D : nullptr;
+    if (chart3D != nullptr && stack->currentWidget() == chart3D) return chart3D;
+    return nullptr;
+}
+
+QImage GraphPane::Image(QSize size) const {
+    if (ChartView *view = CurrentView()) return view->renderImage(size);
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    return image;
+}
+
+void GraphPane::Print(QPainter &painter, const QRect &target) const {
+    if (ChartView *view = CurrentView()) view->print(painter, target);
+}
+
+void GraphPane::Toggle3DLabel(int ix, int iz) {
+    if (!pointLabelsOn || chart3D == nullptr || CurrentView() != chart3D) return;
+    if (chart3D->removeLabel(ix, iz)) return;
+    // A graph read from a file has no definition to label from.
+    if (!data3D || !data3D->in_range(ix, iz) || data3D->value(ix, iz) == data3D->hole()) return;
+    const QString text = QStringLiteral(" (%1 , %2 , %3) ")
+                             .arg(formatValue(data3D->x_at(ix)), formatValue(data3D->value(ix, iz)),
+                                  formatValue(data3D->z_at(iz)));
+    chart3D->addLabel(ix, iz, text);
+}
+
+void GraphPane::DoubleClick(QPoint position) {
+    if (CurrentView() != chart2D) return;
+    const int region = chart2D->pick(position).region;
+    if (region != kRegionHeader && region != kRegionFooter) return;
+    if (titleEditor != nullptr) CommitTitle();
+    titleKind = region == kRegionHeader ? 0 : 1;
+    const QRect rect = titleKind == 0 ? chart2D->headerRect() : chart2D->footerRect();
+    titleEditor = new QLineEdit(chart2D);
+    titleEditor->setAccessibleName(titleKind == 0 ? tr("Header editor") : tr("Footer editor"));
+    titleEditor->setMaxLength(kTitleLimit);
+    const std::string &text = titleKind == 0 ? chart2D->spec().header : chart2D->spec().footer;
+    titleEditor->setText(QString::fromStdString(text));
+    titleEditor->setGeometry(rect);
+    titleEditor->show();
+    titleEditor->setFocus();
+    titleEditor->selectAll();
+    connect(titleEditor, &QLineEdit::returnPressed, this, &GraphPane::CommitTitle);
+}
+
+void GraphPane::CommitTitle() {
+    if (titleEditor == nullptr) return;
+    QLineEdit *editor = std::exchange(titleEditor, nullptr);
+    const QString text = editor->text().left(kTitleLimit);
+    editor->hide();
+    editor->deleteLater();
+    ChartSpec2D spec = chart2D->spec();
+    (titleKind == 0 ? spec.header : spec.footer) = text.toStdString();
+    chart2D->apply(spec);
+    // A graph read from a file changes on the chart only.
+    if (GraphData *graph = Shown2D()) {
+        const QByteArray bytes = text.toUtf8();
+        if (titleKind == 0)
+            graph->SetHeader(bytes.constData());
+        else
+            graph->SetFooter(bytes.constData());
+        emit titleEdited(titleKind, text);
+    }
+}
+
+void GraphPane::Click(QPoint position) {
+    if (titleEditor != nullptr) {
+        // A click in the title being edited leaves the editor open.
+        const int region = chart2D->pick(position).region;
+        if (region == (titleKind == 0 ? kRegionHeader : kRegionFooter)) return;
+        CommitTitle();
+    }
+    if (!pointLabelsOn || CurrentView() != chart2D) return;
+    const ChartPick hit = chart2D->pick(position);
+    if (!pick_takes_label(hit.region, hit.distance)) return;
+    if (chart2D->removeLabel(hit.set, hit.point)) return;
+    // A graph read from a file has no definition to label from.
+    if (!data2D) return;
+    const QString text = QStringLiteral(" (%1 , %2) ")
+                             .arg(formatValue(data2D->x(hit.set, hit.point)),
+                                  formatValue(data2D->y(hit.set, hit.point)));
+    chart2D->addLabel(hit.set, hit.point, text);
+}
+
+}  // namespace quindar
