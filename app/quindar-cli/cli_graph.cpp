@@ -8,7 +8,7 @@
 #include <cstdio>
 #include <iostream>
 
-#include "chart_spec.h"
+#include "chart_decisions.h"
 #include "cli_document.h"
 #include "graph_builder.h"
 #include "graph_error_list.h"

@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "chart_data.h"
-#include "chart_spec.h"
+#include "chart_decisions.h"
 #include "graph_defaults.h"
 
 namespace quindar {

@@ -6,7 +6,7 @@
 // (only where the type allows them), grid lines, and the margins stepped by 25 pixels from what
 // the chart shows. The window copies the result to the document's graph and redraws.
 
-#include "chart_spec.h"
+#include "chart_decisions.h"
 #include "graph_data.h"
 
 namespace quindar {

@@ -2,7 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 #include <gtest/gtest.h>
 
-#include "chart_spec.h"
+#include "chart_decisions.h"
 
 namespace quindar {
 namespace {

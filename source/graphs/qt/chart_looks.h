@@ -13,7 +13,7 @@
 #include <string>
 #include <vector>
 
-#include "chart_spec.h"
+#include "chart_decisions.h"
 
 class QLabel;
 class QPainter;

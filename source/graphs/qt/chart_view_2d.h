@@ -15,7 +15,7 @@
 
 #include "chart_data.h"
 #include "chart_runs.h"
-#include "chart_spec.h"
+#include "chart_decisions.h"
 #include "chart_view.h"
 
 class QChart;

@@ -13,7 +13,7 @@
 
 #include "chart_camera.h"
 #include "chart_data.h"
-#include "chart_spec.h"
+#include "chart_decisions.h"
 #include "chart_view.h"
 
 class Q3DSurface;

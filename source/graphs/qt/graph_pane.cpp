@@ -9,7 +9,7 @@
 
 #include "chart_camera.h"
 #include "chart_runs.h"
-#include "chart_spec.h"
+#include "chart_decisions.h"
 #include "chart_view_2d.h"
 #include "chart_view_3d.h"
 #include "graph_compute_host.h"

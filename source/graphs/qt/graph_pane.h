@@ -12,7 +12,7 @@
 #include <string>
 
 #include "chart_data.h"
-#include "chart_spec.h"
+#include "chart_decisions.h"
 #include "graph_builder.h"
 #include "graph_data.h"
 #include "graph_file.h"

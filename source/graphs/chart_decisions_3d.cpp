@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 // The decisions for a 3-D chart.
-#include "chart_spec.h"
-#include "chart_spec_support.h"
+#include "chart_decisions.h"
+#include "chart_decisions_support.h"
 
 namespace quindar {
 

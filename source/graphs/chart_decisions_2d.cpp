@@ -3,8 +3,8 @@
 // The decisions for a 2-D chart.
 #include <cstddef>
 
-#include "chart_spec.h"
-#include "chart_spec_support.h"
+#include "chart_decisions.h"
+#include "chart_decisions_support.h"
 #include "graph_messages.h"
 #include "graph_types.h"
 

@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <string_view>
 
-#include "chart_spec.h"
+#include "chart_decisions.h"
 
 namespace quindar {
 
