@@ -9,6 +9,8 @@
 #include <QPushButton>
 
 #include "command_table.h"
+#include "document_panes.h"
+#include "document_window.h"
 #include "integration_run.h"
 #include "page_guard.h"
 #include "workbench.h"
@@ -67,16 +69,16 @@ void ConnectPageTools(const PageToolButtons &buttons, Workbench &workbench,
     Workbench *bench = &workbench;
     DocumentWindow *owner = &document;
     const calculus::PageGuard *run = &guard;
+    // The managers are the document's own (modal) dialogs: the page is refilled after them.
     QObject::connect(buttons.editFunction, &QPushButton::clicked, buttons.editFunction,
-                     [bench, owner, run, afterFunctionManager] {
+                     [owner, run, afterFunctionManager] {
                          if (!run->idle()) return;
-                         bench->RunDocumentTool(*owner, command::kFunctionManager);
+                         owner->Panes().OpenFunctionManager({});
                          if (afterFunctionManager) afterFunctionManager();
                      });
     QObject::connect(buttons.editVariable, &QPushButton::clicked, buttons.editVariable,
-                     [bench, owner, run] {
-                         if (run->idle())
-                             bench->RunDocumentTool(*owner, command::kVariablesManager);
+                     [owner, run] {
+                         if (run->idle()) owner->Panes().OpenVariableManager({});
                      });
     QObject::connect(buttons.library, &QPushButton::clicked, buttons.library, [bench, run] {
         if (run->idle()) bench->RunClientTool(command::kFunctionLibrary);

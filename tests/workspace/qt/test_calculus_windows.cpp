@@ -89,6 +89,7 @@ private slots:
     void singleIntegralAnswersAndInsertsIntoTheText_data();
     void singleIntegralAnswersAndInsertsIntoTheText();
     void refusedLimitSelectsItsField();
+    void editButtonsOpenTheDocumentsManagers();
     void stopMidRunGivesNoAnswerAndRestoresTheVariables();
     void closingDuringARunAsksOnceAndIsRefused();
     void closingTheDocumentDuringARunIsRefusedBeforeItsQuestions();
@@ -169,6 +170,25 @@ void CalculusWindows::singleIntegralAnswersAndInsertsIntoTheText() {
     QCOMPARE(harness.Current()->TextPane().toPlainText(), answer);
     // The document keeps what the page held.
     QCOMPARE(QString::fromStdString(harness.Current()->Content().integration.IntXHiLimit), high);
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+// Edit Function and Edit Variable open the document's own managers.
+void CalculusWindows::editButtonsOpenTheDocumentsManagers() {
+    DesktopHarness harness;
+    IntegrationPage &page = OpenSheet(harness)->Integration();
+    QPushButton *editFunction = nullptr;
+    QPushButton *editVariable = nullptr;
+    for (QPushButton *button : page.findChildren<QPushButton *>()) {
+        if (button->accessibleName() == QStringLiteral("Edit Function")) editFunction = button;
+        if (button->accessibleName() == QStringLiteral("Edit Variable")) editVariable = button;
+    }
+    QVERIFY(editFunction != nullptr && editVariable != nullptr);
+    harness.dialogsRun.clear();
+    editVariable->click();
+    editFunction->click();
+    QCOMPARE(harness.dialogsRun, (QStringList{QStringLiteral("Variables Manager"),
+                                              QStringLiteral("Functions Manager")}));
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
