@@ -2,7 +2,10 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 #include "client_tools.h"
 
+#include "calculus_tools.h"
 #include "command_table.h"
+#include "document_area.h"
+#include "document_window.h"
 #include "function_library_dialog.h"
 #include "main_frame.h"
 #include "options_sheet.h"
@@ -45,6 +48,13 @@ FunctionLibraryDialog &ClientTools::ShowFunctionLibrary() {
     if (functionLibrary == nullptr) {
         functionLibrary = new FunctionLibraryDialog(workbench, workbench.Frame());
         functionLibrary->setAttribute(Qt::WA_DeleteOnClose);
+        // Solve F[x] opens the current document's Function Solver on the prototype.
+        Workbench *bench = &workbench;
+        functionLibrary->solve = [bench](const QString &prototype, const QString &description) {
+            DocumentWindow *document =
+                bench->Frame() != nullptr ? bench->Frame()->Client()->Current() : nullptr;
+            if (document != nullptr) OpenFunctionSolver(*bench, *document, prototype, description);
+        };
     }
     functionLibrary->show();
     functionLibrary->raise();

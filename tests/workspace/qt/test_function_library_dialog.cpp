@@ -16,6 +16,7 @@
 #include <QTextBlock>
 #include <QTextCursor>
 
+#include "calculus_tools.h"
 #include "client_tools.h"
 #include "command_table.h"
 #include "desktop_harness.h"
@@ -189,6 +190,9 @@ void FunctionLibraryWindow::buttonsFollowTheName() {
     QCOMPARE(QString::fromStdString(dialog.Browser().CurrentName()), name);
     QCOMPARE(Button(dialog, QStringLiteral("Help F[x]"))->isVisibleTo(&dialog), helpShown);
     QCOMPARE(Button(dialog, QStringLiteral("Solve F[x]"))->isEnabled(), solveEnabled);
+    // Solve F[x] opens the current document's Function Solver.
+    QTest::mouseClick(Button(dialog, QStringLiteral("Solve F[x]")), Qt::LeftButton);
+    QCOMPARE(FindFunctionSolver(*harness.Current()) != nullptr, solveEnabled);
     QString prototype;
     dialog.solve = [&](const QString &text, const QString &) { prototype = text; };
     QTest::mouseClick(Button(dialog, QStringLiteral("Solve F[x]")), Qt::LeftButton);
