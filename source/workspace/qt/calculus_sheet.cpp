@@ -12,9 +12,12 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include "command_router.h"
+#include "command_table.h"
 #include "differentiation_page.h"
 #include "document_window.h"
 #include "integration_page.h"
+#include "workbench.h"
 
 namespace quindar {
 
@@ -36,6 +39,16 @@ CalculusSheet::CalculusSheet(Workbench &workbench, DocumentWindow &owner, const 
     tabBook->setAccessibleName(QStringLiteral("Calculus Pages"));
     integration = new IntegrationPage(workbench, owner, function, tabBook);
     differentiation = new DifferentiationPage(workbench, owner, function, tabBook);
+    // Graph Ans. draws the new current graph in the document's graph pane; a pane already
+    // showing goes back to the text first, so that showing it again builds the new graph.
+    Workbench *bench = &workbench;
+    differentiation->drawGraph = [bench](DocumentWindow &document) {
+        CommandState state;
+        if (document.toolState && document.toolState(command::kShowGraphWindow, state) &&
+            state.checked)
+            bench->RunDocumentTool(document, command::kShowMathWindow);
+        bench->RunDocumentTool(document, command::kShowGraphWindow);
+    };
     tabBook->addTab(integration, QStringLiteral("Integration"));
     tabBook->addTab(differentiation, QStringLiteral("Differentiation"));
     layout->addWidget(tabBook);

@@ -386,6 +386,14 @@ void CalculusWindows::graphAnswerAddsATwoDimensionalGraphToTheDocument() {
     SetText(&page, QStringLiteral("n"), QStringLiteral("5"));
     page.ComputeButton()->click();
     QCOMPARE(page.List()->item(4, 1)->text(), QStringLiteral("5"));
+    // The sheet's own hook shows the graph in the document's graph pane.
+    QList<int> tools;
+    harness.Bench().documentTools = [&tools](DocumentWindow &, int id) {
+        tools << id;
+        return true;
+    };
+    page.GraphButton()->click();
+    QCOMPARE(tools, QList<int>{command::kShowGraphWindow});
     int drawn = 0;
     page.drawGraph = [&](DocumentWindow &) { ++drawn; };
     page.GraphButton()->click();
