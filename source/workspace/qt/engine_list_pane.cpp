@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 
+#include "calculus_tools.h"
 #include "command_table.h"
 #include "document_area.h"
 #include "document_panes.h"
@@ -250,9 +251,13 @@ bool EngineListPane::CommandEnabler(int id, CommandState &state) {
         state.checked = panes.Bench().showIncrementals;
         return true;
     }
+    if (kind == ListKind::Functions && id == list_command::kFunctionSolver) {
+        state.enabled = selected >= 0;
+        return true;
+    }
     // Their windows are not there yet.
     if (id == list_command::kPrecisionFormat || id == list_command::kPrintVariables ||
-        id == list_command::kFunctionSolver || id == list_command::kPrintFunctions) {
+        id == list_command::kPrintFunctions) {
         state.enabled = false;
         return true;
     }
@@ -290,6 +295,14 @@ bool EngineListPane::CommandHandler(int id) {
     }
     if (kind == ListKind::Variables && id == list_command::kShowIncrementals) {
         ToggleShowIncrementals(panes.Bench());
+        return true;
+    }
+    if (kind == ListKind::Functions && id == list_command::kFunctionSolver) {
+        // The solver takes the selected function as it is declared; an open one follows.
+        auto *document = qobject_cast<DocumentWindow *>(panes.parentWidget());
+        const char *declared = parser.get_func_name_value(selected);
+        if (document != nullptr && declared != nullptr)
+            OpenFunctionSolver(panes.Bench(), *document, QString::fromUtf8(declared), QString());
         return true;
     }
     return false;

@@ -19,6 +19,7 @@
 
 #include "calculator_bar.h"
 #include "calculator_keys.h"
+#include "calculus_tools.h"
 #include "command_table.h"
 #include "desktop_harness.h"
 #include "document_area.h"
@@ -286,8 +287,11 @@ void DocumentPanesTest::popupMenusListTheirCommands() {
     SelectRows(panes.FunctionsList(), {0});
     QCOMPARE(menuOf(panes.FunctionsList()),
              (QStringList{"&Delete Function...", "Delete &All Functions...", "&Insert Function",
-                          "&Function Manager...", "Function &Solver... (off)",
-                          "&Calculus Utility...", "&Print Functions... (off)"}));
+                          "&Function Manager...", "Function &Solver...", "&Calculus Utility...",
+                          "&Print Functions... (off)"}));
+    // The Function Solver opens on the selected function.
+    QVERIFY(panes.FunctionsList().CommandHandler(30590));
+    QVERIFY(FindFunctionSolver(*harness.Current()) != nullptr);
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
