@@ -90,10 +90,10 @@ int ParseDescribeOption(const std::vector<std::string> &arguments, std::size_t &
     return 0;
 }
 
-int RunDescribe(const DescribeOptions &options, const std::string &folder, std::ostream &out,
-                std::string &error) {
-    const std::string system = folder + kSystemLibraryName;
-    const std::string user = folder + kUserLibraryName;
+int RunDescribe(const DescribeOptions &options, const std::string &libraryFolder,
+                const std::string &userLibraryFolder, std::ostream &out, std::string &error) {
+    const std::string system = libraryFolder + kSystemLibraryName;
+    const std::string user = userLibraryFolder + kUserLibraryName;
     VarFunIniFile systemLibrary(system.c_str());
     VarFunIniFile userLibrary(user.c_str());
     FunctionLibraryCatalog catalog(&systemLibrary, &userLibrary);

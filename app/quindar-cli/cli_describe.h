@@ -28,10 +28,11 @@ struct DescribeOptions {
 int ParseDescribeOption(const std::vector<std::string> &arguments, std::size_t &at,
                         DescribeOptions &options, std::string &error);
 
-// Prints what was asked, reading the libraries in folder. The exit status: 0 done, 1 the
-// name is not known, 2 the category is not known.
-int RunDescribe(const DescribeOptions &options, const std::string &folder, std::ostream &out,
-                std::string &error);
+// Prints what was asked, reading the shipped library in libraryFolder and the user's in
+// userLibraryFolder. The exit status: 0 done, 1 the name is not known, 2 the category is not
+// known.
+int RunDescribe(const DescribeOptions &options, const std::string &libraryFolder,
+                const std::string &userLibraryFolder, std::ostream &out, std::string &error);
 
 // The digits of the answers written into a text, 1 to 14, from the text of --precision.
 std::optional<int> ReadAnswerPrecision(const std::string &text, std::string &error);

@@ -14,6 +14,7 @@
 #include "cli_files.h"
 #include "cli_graph.h"
 #include "cli_options.h"
+#include "desktop_folders.h"
 #include "file_io.h"
 #include "memory_text_buffer.h"
 #include "message_text.h"
@@ -113,14 +114,17 @@ int main(int argc, char **argv) {
     }
 
     const std::string libraries = library_folder(QUINDAR_SOURCE_LIBRARY_DIR);
+    const std::string userLibraries =
+        command_line_user_library_folder(libraries, process_environment());
     // The user library is made when missing, as the desktop program does at its start.
-    create_user_library(libraries);
-    Parser parser(libraries.c_str(), libraries.c_str());
+    create_user_library(userLibraries);
+    Parser parser(libraries.c_str(), userLibraries.c_str());
     Warn(OpenLibraries(parser, libraries));
     if (graph.name) return cli::RunGraph(graph, *options, parser);
     if (options->calculus) return Compute(*options, parser);
     if (options->describe.Wanted()) {
-        const int status = cli::RunDescribe(options->describe, libraries, std::cout, error);
+        const int status =
+            cli::RunDescribe(options->describe, libraries, userLibraries, std::cout, error);
         if (status == 1) std::cerr << "quindar-cli: " << error << '\n';
         return status == 2 ? Fail(error) : status;
     }

@@ -6,17 +6,16 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include <unistd.h>
+
+#include "program_folders.h"
+
 namespace quindar {
 namespace {
 
 std::string WithSeparator(std::string folder) {
     if (!folder.empty() && folder.back() != '/') folder += '/';
     return folder;
-}
-
-bool IsFolder(const std::string &path) {
-    std::error_code ignored;
-    return std::filesystem::is_directory(path, ignored);
 }
 
 bool IsFile(const std::string &path) {
@@ -52,15 +51,8 @@ DesktopFolders find_desktop_folders(const std::string &programDir,
                                     const EnvironmentReader &environment) {
     DesktopFolders folders;
     folders.programDir = WithSeparator(programDir);
-    const std::string shared =
-        folders.programDir.empty() ? std::string() : folders.programDir + "../share/quindar/";
-    if (!folders.programDir.empty() && IsFolder(folders.programDir + "Library"))
-        folders.execDir = folders.programDir;
-    else if (!shared.empty() && IsFolder(shared + "Library"))
-        folders.execDir = std::filesystem::path(shared).lexically_normal().string();
-    else
-        folders.execDir = WithSeparator(fallbackExecDir);
-    folders.execDir = WithSeparator(folders.execDir);
+    folders.execDir = shipped_folder(folders.programDir);
+    if (folders.execDir.empty()) folders.execDir = WithSeparator(fallbackExecDir);
 
     folders.libraryDir = folders.execDir + "Library/";
     folders.examplesDir = folders.execDir + "Examples/";
@@ -79,6 +71,14 @@ DesktopFolders find_desktop_folders(const std::string &programDir,
     folders.settingsPath =
         !folders.programDir.empty() && IsFile(portable) ? portable : folders.recentFilesPath;
     return folders;
+}
+
+std::string command_line_user_library_folder(const std::string &libraryDir,
+                                             const EnvironmentReader &environment) {
+    const std::string shipped = WithSeparator(libraryDir);
+    if (!shipped.empty() && ::access(shipped.c_str(), W_OK) == 0) return shipped;
+    const std::string data = XdgFolder(environment, "XDG_DATA_HOME", ".local/share/");
+    return data.empty() ? shipped : data + "Quindar/Library/";
 }
 
 bool is_stale_temporary_name(std::string_view name) {

@@ -41,6 +41,12 @@ DesktopFolders find_desktop_folders(const std::string &programDir,
                                     const std::string &fallbackExecDir,
                                     const EnvironmentReader &environment);
 
+// Where the command-line program keeps the user library: beside the shipped library when the
+// user may write there (a build tree, a portable copy), else in $XDG_DATA_HOME/Quindar/Library/
+// as the desktop program does (an installation). Ends in "/".
+std::string command_line_user_library_folder(const std::string &libraryDir,
+                                             const EnvironmentReader &environment);
+
 // Whether a file name is a temporary document file left by an earlier run: "qnd*.tmp",
 // without regard to case.
 bool is_stale_temporary_name(std::string_view name);

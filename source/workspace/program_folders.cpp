@@ -22,12 +22,20 @@ std::string program_folder() {
     return with_separator(program.parent_path().string());
 }
 
-std::string library_folder(const std::string &fallback) {
-    const std::string beside = program_folder();
+std::string shipped_folder(const std::string &programDir) {
+    if (programDir.empty()) return {};
+    const std::string own = with_separator(programDir);
     std::error_code ignored;
-    if (!beside.empty() && std::filesystem::is_directory(beside + "Library", ignored))
-        return beside + "Library/";
-    return with_separator(fallback);
+    if (std::filesystem::is_directory(own + "Library", ignored)) return own;
+    // Checked as written, so that a program folder that is not there has no share folder.
+    const std::string shared = own + "../share/quindar/";
+    if (!std::filesystem::is_directory(shared + "Library", ignored)) return {};
+    return with_separator(std::filesystem::path(shared).lexically_normal().string());
+}
+
+std::string library_folder(const std::string &fallback) {
+    const std::string shipped = shipped_folder(program_folder());
+    return shipped.empty() ? with_separator(fallback) : shipped + "Library/";
 }
 
 }  // namespace quindar

@@ -11,9 +11,13 @@ namespace quindar {
 // The folder of the running program's file, ending in "/"; empty when it cannot be told.
 std::string program_folder();
 
-// The "Library" folder beside the program when there is one, else fallback (a build that
-// runs from its build tree reads the source tree's folder). The result ends in "/" unless
-// it is empty.
+// The folder that holds what comes with the program ("Library", "Examples", "help", ...): the
+// program's own folder when it has a "Library", else "../share/quindar/" beside it when that
+// has one (an installation), else empty. `programDir` ends in "/" or is empty.
+std::string shipped_folder(const std::string &programDir);
+
+// The shipped "Library" folder of the running program, else fallback (a build that runs from
+// its build tree reads the source tree's folder). The result ends in "/" unless it is empty.
 std::string library_folder(const std::string &fallback);
 
 }  // namespace quindar

@@ -8,6 +8,7 @@
 #include <map>
 
 #include "desktop_folders.h"
+#include "program_folders.h"
 #include "start_request.h"
 #include "temp_folder.h"
 #include "tutorial_rules.h"
@@ -62,6 +63,28 @@ TEST(DesktopFolders, InstalledShareFolderAndFallback) {
     EXPECT_EQ(built.execDir, "/source/tree/");
     // A relative XDG folder is ignored, as the XDG rules say.
     EXPECT_EQ(built.settingsPath, "/h/.config/Quindar/Quindar.ini");
+}
+
+TEST(DesktopFolders, ShippedFolderOfTheProgramAndOfAnInstallation) {
+    TempFolder root;
+    std::filesystem::create_directories(root.path() + "/portable/Library");
+    std::filesystem::create_directories(root.path() + "/bin");
+    std::filesystem::create_directories(root.path() + "/share/quindar/Library");
+    EXPECT_EQ(shipped_folder(root.path() + "/portable"), root.path() + "/portable/");
+    EXPECT_EQ(shipped_folder(root.path() + "/bin/"), root.path() + "/share/quindar/");
+    TempFolder lonely;
+    EXPECT_EQ(shipped_folder(lonely.path()), "");
+    EXPECT_EQ(shipped_folder(""), "");
+}
+
+TEST(DesktopFolders, CommandLineUserLibraryStaysBesideAWritableLibrary) {
+    TempFolder root;
+    const EnvironmentReader environment = Environment({{"XDG_DATA_HOME", "/data"}});
+    EXPECT_EQ(command_line_user_library_folder(root.path(), environment), root.path() + "/");
+    // A library the user cannot write to (here: one that is not there) sends the user library
+    // to the user's data folder.
+    EXPECT_EQ(command_line_user_library_folder(root.path() + "/gone/Library/", environment),
+              "/data/Quindar/Library/");
 }
 
 TEST(DesktopFolders, StaleTemporaryNames) {
