@@ -8,6 +8,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 
+#include "calculus_page.h"
 #include "command_table.h"
 #include "document_panes.h"
 #include "document_window.h"
@@ -64,16 +65,20 @@ QProgressBar *RunGauge(QWidget *parent) {
 }
 
 void ConnectPageTools(const PageToolButtons &buttons, Workbench &workbench,
-                      DocumentWindow &document, const calculus::PageGuard &guard,
+                      DocumentWindow &document, CalculusPage &page,
+                      const calculus::PageGuard &guard,
                       const std::function<void()> &afterFunctionManager) {
     Workbench *bench = &workbench;
     DocumentWindow *owner = &document;
+    CalculusPage *target = &page;
     const calculus::PageGuard *run = &guard;
     // The managers are the document's own (modal) dialogs: the page is refilled after them.
     QObject::connect(buttons.editFunction, &QPushButton::clicked, buttons.editFunction,
-                     [owner, run, afterFunctionManager] {
+                     [owner, run, target, afterFunctionManager] {
                          if (!run->idle()) return;
-                         owner->Panes().OpenFunctionManager({});
+                         owner->Panes().OpenFunctionManager({}, [target](const std::string &name) {
+                             target->AppendToFunction(QString::fromStdString(name));
+                         });
                          if (afterFunctionManager) afterFunctionManager();
                      });
     QObject::connect(buttons.editVariable, &QPushButton::clicked, buttons.editVariable,

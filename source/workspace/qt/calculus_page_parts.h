@@ -17,6 +17,7 @@ class QWidget;
 
 namespace quindar {
 
+class CalculusPage;
 class DocumentWindow;
 class Parser;
 class Workbench;
@@ -41,7 +42,8 @@ void ShowFunctionText(QComboBox *box, const QString &text);
 QProgressBar *RunGauge(QWidget *parent);
 
 // The page's buttons that open other windows; they do nothing while the page runs.
-// `afterFunctionManager` refills the page once the Function Manager is closed.
+// `afterFunctionManager` refills the page once the Function Manager is closed; that
+// manager's Insert adds to `page`'s function box.
 struct PageToolButtons {
     QPushButton *editFunction = nullptr;
     QPushButton *editVariable = nullptr;
@@ -49,7 +51,8 @@ struct PageToolButtons {
     QPushButton *help = nullptr;
 };
 void ConnectPageTools(const PageToolButtons &buttons, Workbench &workbench,
-                      DocumentWindow &document, const calculus::PageGuard &guard,
+                      DocumentWindow &document, CalculusPage &page,
+                      const calculus::PageGuard &guard,
                       const std::function<void()> &afterFunctionManager);
 
 }  // namespace quindar

@@ -199,7 +199,7 @@ void DifferentiationPage::BuildControls(const QString &function) {
     connect(insertButton, &QPushButton::clicked, this, &DifferentiationPage::InsertAnswer);
     connect(graphButton, &QPushButton::clicked, this, &DifferentiationPage::GraphAnswer);
     ConnectPageTools({editFunctionButton, editVariableButton, libraryButton, helpButton}, workbench,
-                     document, guard, [this] { ReloadFunctionList(); });
+                     document, *this, guard, [this] { ReloadFunctionList(); });
 }
 
 void DifferentiationPage::ReloadFunctionList() {

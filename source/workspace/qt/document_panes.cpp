@@ -222,8 +222,9 @@ void DocumentPanes::OpenVariableManager(const std::string &name) {
     RunDialog(dialog);
 }
 
-void DocumentPanes::OpenFunctionManager(const std::string &name) {
+void DocumentPanes::OpenFunctionManager(const std::string &name, ManagerInsertTarget insertTarget) {
     ManagerDialog dialog(ManagerKind::Functions, *this, name, this);
+    dialog.SetInsertTarget(std::move(insertTarget));
     RunDialog(dialog);
 }
 

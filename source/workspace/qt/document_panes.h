@@ -9,6 +9,7 @@
 // typed line would; Compute All.
 
 #include <QWidget>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -26,6 +27,9 @@ class MathEditorWidget;
 class Parser;
 class Workbench;
 enum class ListEvent;
+
+// Where the Function Manager's Insert puts a function's name instead of the text.
+using ManagerInsertTarget = std::function<void(const std::string &name)>;
 
 class DocumentPanes : public QWidget, public CommandTarget {
     Q_OBJECT
@@ -55,9 +59,10 @@ public:
     void DeleteAllVariables();
     void DeleteAllFunctions();
 
-    // The modal managers; a name preselects its entry.
+    // The modal managers; a name preselects its entry. The Function Manager's Insert goes to
+    // `insertTarget` when there is one (a calculus page that opened it), else to the text.
     void OpenVariableManager(const std::string &name);
-    void OpenFunctionManager(const std::string &name);
+    void OpenFunctionManager(const std::string &name, ManagerInsertTarget insertTarget = {});
 
     // Puts text at the caret of the text pane, over its selection.
     void InsertIntoText(const std::string &text);

@@ -213,7 +213,7 @@ void IntegrationPage::BuildControls(const QString &function) {
     connect(stopButton, &QPushButton::clicked, this, &IntegrationPage::Stop);
     connect(insertButton, &QPushButton::clicked, this, &IntegrationPage::InsertAnswer);
     ConnectPageTools({editFunctionButton, editVariableButton, libraryButton, helpButton}, workbench,
-                     document, guard, [this] {
+                     document, *this, guard, [this] {
                          // The box keeps its choice, or its text when that is no entry any more
                          // or was added to.
                          const QString text = functionBox->currentText();

@@ -372,6 +372,10 @@ void ManagerDialog::Insert() {
                                           kBoxQuestionYesNo) != kIdYes)
             return;
     }
+    if (insertTarget) {
+        insertTarget(name);
+        return;
+    }
     panes.InsertIntoText(name);
     panes.Bench().PlaySound("Add.wav");
 }

@@ -10,14 +10,14 @@
 #include <QDialog>
 #include <string>
 
+#include "document_panes.h"
+
 class QComboBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
 
 namespace quindar {
-
-class DocumentPanes;
 
 enum class ManagerKind { Variables, Functions };
 
@@ -34,6 +34,8 @@ public:
     void AddEdit();
     void Delete();
     void Insert();
+    // Insert hands the name to `target` instead of writing it into the text.
+    void SetInsertTarget(ManagerInsertTarget target) { insertTarget = std::move(target); }
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
@@ -56,6 +58,7 @@ private:
     QLineEdit *valueBox = nullptr;
     QLabel *instructions = nullptr;
     bool showInstructions = true;
+    ManagerInsertTarget insertTarget;
 };
 
 }  // namespace quindar

@@ -33,6 +33,7 @@
 #include "document_window.h"
 #include "function_solver_dialog.h"
 #include "integration_page.h"
+#include "manager_dialog.h"
 #include "math_editor_widget.h"
 #include "parser.h"
 
@@ -88,6 +89,7 @@ private slots:
     void calculusCommandOpensOneSheetPerDocument();
     void singleIntegralAnswersAndInsertsIntoTheText_data();
     void singleIntegralAnswersAndInsertsIntoTheText();
+    void functionManagerInsertsIntoThePage();
     void refusedLimitSelectsItsField();
     void editButtonsOpenTheDocumentsManagers();
     void stopMidRunGivesNoAnswerAndRestoresTheVariables();
@@ -189,6 +191,27 @@ void CalculusWindows::editButtonsOpenTheDocumentsManagers() {
     editFunction->click();
     QCOMPARE(harness.dialogsRun, (QStringList{QStringLiteral("Variables Manager"),
                                               QStringLiteral("Functions Manager")}));
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+// The Function Manager opened from a page inserts into the page's function box, not the text.
+void CalculusWindows::functionManagerInsertsIntoThePage() {
+    DesktopHarness harness;
+    DocumentWindow &document = *harness.Current();
+    TypeText(&document.TextPane(), QStringLiteral("g[x] = x+1\n"));
+    const QString text = document.TextPane().toPlainText();
+    IntegrationPage &page = OpenSheet(harness)->Integration();
+    SetText(&page, QStringLiteral("Function"), QStringLiteral("2*"));
+    harness.Bench().runDialog = [](QDialog &dialog) {
+        auto *manager = qobject_cast<ManagerDialog *>(&dialog);
+        QVERIFY(manager != nullptr);
+        manager->NameBox().setEditText(QStringLiteral("g"));
+        manager->Insert();
+    };
+    Named<QPushButton>(&page, QStringLiteral("Edit Function"))->click();
+    QCOMPARE(Named<QComboBox>(&page, QStringLiteral("Function"))->currentText(),
+             QStringLiteral("2*g"));
+    QCOMPARE(document.TextPane().toPlainText(), text);
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
