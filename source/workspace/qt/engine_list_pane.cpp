@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QMouseEvent>
 
 #include "calculus_tools.h"
 #include "command_table.h"
@@ -298,14 +299,30 @@ bool EngineListPane::CommandHandler(int id) {
         return true;
     }
     if (kind == ListKind::Functions && id == list_command::kFunctionSolver) {
-        // The solver takes the selected function as it is declared; an open one follows.
-        auto *document = qobject_cast<DocumentWindow *>(panes.parentWidget());
-        const char *declared = parser.get_func_name_value(selected);
-        if (document != nullptr && declared != nullptr)
-            OpenFunctionSolver(panes.Bench(), *document, QString::fromUtf8(declared), QString());
+        OpenFunctionSolver(selected);
         return true;
     }
     return false;
+}
+
+void EngineListPane::OpenFunctionSolver(int index) {
+    auto *document = qobject_cast<DocumentWindow *>(panes.parentWidget());
+    // The solver takes the function as it is declared.
+    const char *declared = panes.Engine().get_func_name_value(index);
+    if (document == nullptr || declared == nullptr) return;
+    if (FindFunctionSolver(*document) == nullptr || index != lastSolverIndex)
+        quindar::OpenFunctionSolver(panes.Bench(), *document, QString::fromUtf8(declared),
+                                    QString());
+    lastSolverIndex = index;
+}
+
+void EngineListPane::mousePressEvent(QMouseEvent *event) {
+    QTreeWidget::mousePressEvent(event);
+    // While the document's solver is open it follows the function clicked.
+    auto *document = qobject_cast<DocumentWindow *>(panes.parentWidget());
+    if (kind == ListKind::Functions && event->button() == Qt::LeftButton && document != nullptr &&
+        FindFunctionSolver(*document) != nullptr && SelectedIndex() >= 0)
+        OpenFunctionSolver(SelectedIndex());
 }
 
 }  // namespace quindar

@@ -43,15 +43,20 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
     int EntryCount() const;
     void FitColumn();
     void OpenManager();
+    // The document's Function Solver on function `index`: opened when closed; reconfigured
+    // only when it shows another function than the one it was last given.
+    void OpenFunctionSolver(int index);
 
     ListKind kind;
     DocumentPanes &panes;
+    int lastSolverIndex = -1;
 };
 
 }  // namespace quindar

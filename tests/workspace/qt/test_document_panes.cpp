@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFontDialog>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QRadioButton>
@@ -28,6 +29,7 @@
 #include "document_window.h"
 #include "engine_list_pane.h"
 #include "find_replace_dialog.h"
+#include "function_solver_dialog.h"
 #include "main_frame.h"
 #include "manager_dialog.h"
 #include "math_editor_widget.h"
@@ -257,7 +259,8 @@ void DocumentPanesTest::headerClickAndDoubleClickOpenTheManager() {
 
 void DocumentPanesTest::popupMenusListTheirCommands() {
     DesktopHarness harness;
-    TypeText(&harness.Current()->TextPane(), QStringLiteral("a = 1\nb = 2\nW[x] = x\n"));
+    TypeText(&harness.Current()->TextPane(),
+             QStringLiteral("a = 1\nb = 2\nW[x] = x\nV[t,u] = t*u\n"));
     DocumentPanes &panes = harness.Current()->Panes();
     const auto menuOf = [](EngineListPane &list) {
         QStringList items;
@@ -289,9 +292,16 @@ void DocumentPanesTest::popupMenusListTheirCommands() {
              (QStringList{"&Delete Function...", "Delete &All Functions...", "&Insert Function",
                           "&Function Manager...", "Function &Solver...", "&Calculus Utility...",
                           "&Print Functions... (off)"}));
-    // The Function Solver opens on the selected function.
+    // The Function Solver opens on the selected function, and while open follows a click.
     QVERIFY(panes.FunctionsList().CommandHandler(30590));
-    QVERIFY(FindFunctionSolver(*harness.Current()) != nullptr);
+    FunctionSolverDialog *solver = FindFunctionSolver(*harness.Current());
+    QVERIFY(solver != nullptr);
+    QCOMPARE(solver->BoxLabel(0)->text(), QStringLiteral("x"));
+    EngineListPane &functions = panes.FunctionsList();
+    QTest::mouseClick(functions.viewport(), Qt::LeftButton, {},
+                      functions.visualItemRect(functions.topLevelItem(1)).center());
+    QCOMPARE(solver->BoxLabel(0)->text(), QStringLiteral("t"));
+    QCOMPARE(solver->BoxLabel(1)->text(), QStringLiteral("u"));
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
