@@ -120,6 +120,8 @@ int main(int argc, char **argv) {
     create_user_library(userLibraries);
     Parser parser(libraries.c_str(), userLibraries.c_str());
     Warn(OpenLibraries(parser, libraries));
+    // Data files named in the text are found beside it first.
+    if (options->path != "-") parser.data_folder = folder_of_file(options->path);
     if (graph.name) return cli::RunGraph(graph, *options, parser);
     if (options->calculus) return Compute(*options, parser);
     if (options->describe.Wanted()) {

@@ -259,6 +259,12 @@ public:
     void get_comline_data(std::ostream &answer, DynArray<long double, 10> &list, int fn);
     bool get_file_data(DynArray<long double, 10> &list, const char *name, int fn);
     bool get_file_data(DynArray<std::string, 10> &list, const char *name, int fn);
+    // The folder of the document this engine computes, or empty. A data file named without a
+    // folder is looked for there first, then in the working folder, so that a document and its
+    // data files can move together.
+    std::string data_folder;
+    // Where the data file `name` is read from.
+    std::string data_file_path(const char *name) const;
     // The data files whose entries engines made for them are evaluating, outermost first, and
     // what all nested reads of one outer file may still cost. A file entry may name another
     // data file, so without these a file that reads itself would recurse until the stack ends.

@@ -6,6 +6,7 @@
 #include <climits>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
 #include <memory>
 #include <vector>
 
@@ -107,9 +108,19 @@ void Parser::get_comline_data(std::ostream &answer, DynArray<long double, 10> &l
     }
 }
 
+std::string Parser::data_file_path(const char *name) const {
+    const std::string text = name ? name : "";
+    if (data_folder.empty() || text.empty() || text.front() == '/') return text;
+    std::string beside = data_folder;
+    if (beside.back() != '/') beside += '/';
+    beside += text;
+    std::error_code ignored;
+    return std::filesystem::exists(beside, ignored) ? beside : text;
+}
+
 bool Parser::get_file_data(DynArray<std::string, 10> &list, const char *name, int) {
     std::vector<std::string> entries;
-    const auto status = mathlib::read_data_entries(name ? name : "", entries);
+    const auto status = mathlib::read_data_entries(data_file_path(name), entries);
     list.flush();
     if (status != mathlib::DataFileStatus::Read) {
         report_data_file_error(mathlib::data_file_message(status, name ? name : ""));
@@ -140,7 +151,7 @@ bool Parser::may_read_data_file(const std::string &identity, const char *name) {
 bool Parser::get_file_data(DynArray<long double, 10> &list, const char *name, int fn) {
     DynArray<std::string, 10> entries;
     list.flush();
-    const std::string identity = data_file_identity(name ? name : "");
+    const std::string identity = data_file_identity(data_file_path(name).c_str());
     if (!may_read_data_file(identity, name ? name : "")) return false;
     if (!get_file_data(entries, name, fn)) return false;
     if (nested_data_budget) {
@@ -154,6 +165,7 @@ bool Parser::get_file_data(DynArray<long double, 10> &list, const char *name, in
     }
     Parser reader(lib_dir.c_str(), user_lib_dir.c_str());
     reader.data_file_chain = data_file_chain;
+    reader.data_folder = data_folder;
     reader.data_file_chain.push_back(identity);
     reader.nested_data_budget =
         nested_data_budget ? nested_data_budget : std::make_shared<long>(kNestedDataBudget);

@@ -22,6 +22,13 @@ std::string program_folder() {
     return with_separator(program.parent_path().string());
 }
 
+std::string folder_of_file(const std::string &path) {
+    if (path.empty()) return {};
+    std::error_code error;
+    const std::filesystem::path absolute = std::filesystem::absolute(path, error);
+    return error ? std::string() : absolute.parent_path().string();
+}
+
 std::string shipped_folder(const std::string &programDir) {
     if (programDir.empty()) return {};
     const std::string own = with_separator(programDir);

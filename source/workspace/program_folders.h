@@ -11,6 +11,9 @@ namespace quindar {
 // The folder of the running program's file, ending in "/"; empty when it cannot be told.
 std::string program_folder();
 
+// The absolute folder of the file at `path`; empty when it cannot be told.
+std::string folder_of_file(const std::string &path);
+
 // The folder that holds what comes with the program ("Library", "Examples", "help", ...): the
 // program's own folder when it has a "Library", else "../share/quindar/" beside it when that
 // has one (an installation), else empty. `programDir` ends in "/" or is empty.

@@ -94,6 +94,29 @@ TEST_F(DataLists, FileNamesAreToldFromLists) {
     std::filesystem::current_path(previous);
 }
 
+// A document's data files are found beside it, whatever the working folder; a name with a
+// folder, or one not beside the document, is taken as it stands.
+TEST_F(DataLists, DataFilesBesideTheDocumentComeFirst) {
+    file("near.txt", "1 2 3");
+    file("nested.txt", "SRESIST[{near.txt}] 4");
+    testing::TempFolder elsewhere;
+    elsewhere.write("only-here.txt", "7 8");
+    const auto previous = std::filesystem::current_path();
+    std::filesystem::current_path(elsewhere.path());
+    EXPECT_EQ(evaluate(parser, "SRESIST[{near.txt}]"),
+              "Data File ' near.txt ' Could Not Be Located!");
+    parser.data_folder = folder.path();
+    const testing::LineCase table[] = {
+        {"SRESIST[{near.txt}]", " = 6"},
+        {"SRESIST[{nested.txt}]", " = 10"},
+        {"SRESIST[{only-here.txt}]", " = 15"},
+        {"SRESIST[{gone.txt}]", "Data File ' gone.txt ' Could Not Be Located!"},
+    };
+    for (const testing::LineCase &c : table)
+        EXPECT_EQ(evaluate(parser, c.line), c.expected) << c.line;
+    std::filesystem::current_path(previous);
+}
+
 // A data file may name data files in its entries; a file that reads itself, a chain that is
 // too deep, and nested files that together hold too much end with a message, not a crash.
 TEST_F(DataLists, NestedDataFilesAreBounded) {

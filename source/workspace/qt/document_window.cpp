@@ -16,6 +16,7 @@
 #include "math_editor_widget.h"
 #include "message_boxes.h"
 #include "parser.h"
+#include "program_folders.h"
 #include "workbench.h"
 
 namespace quindar {
@@ -152,6 +153,7 @@ bool DocumentWindow::Load(const std::string &file) {
     });
     if (!reader.Read(file.c_str())) return false;
     path = file;
+    parser->data_folder = folder_of_file(path);
     textPane->setFont(qfont_of(content.font));
     textPane->SetDocumentText(content.text);
     panes->Refresh(ListEvent::PaneOpens);
@@ -212,6 +214,7 @@ bool DocumentWindow::SaveAs() {
     const std::string target = chosen.toStdString();
     if (!WriteTo(target)) return false;
     path = target;
+    parser->data_folder = folder_of_file(path);
     setWindowTitle(Caption());
     setAccessibleName(Caption());
     workbench.AddRecentFile(path);

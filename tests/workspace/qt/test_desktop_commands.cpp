@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiSubWindow>
@@ -26,6 +27,7 @@
 #include "document_window.h"
 #include "main_frame.h"
 #include "math_editor_widget.h"
+#include "parser.h"
 #include "string_table.h"
 
 using namespace quindar;
@@ -275,6 +277,9 @@ void DesktopCommands::recentFilesAndDroppedFiles() {
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
     QCOMPARE(harness.Client().Count(), 2);
     QCOMPARE(harness.Current()->Path(), copy.toStdString());
+    // Its data files are looked for beside it.
+    QCOMPARE(QString::fromStdString(harness.Current()->Engine().data_folder),
+             QFileInfo(copy).absolutePath());
 
     // A file dropped on the text opens as well, and the text stays as it was.
     const QString second = folder.path() + QStringLiteral("/second.qnd");
