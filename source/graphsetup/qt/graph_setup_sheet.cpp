@@ -34,12 +34,6 @@ namespace quindar {
 
 namespace {
 
-using PageMaker = MadeSetupPage (*)(SetupPageContext &, QWidget *);
-constexpr std::array<PageMaker, kSetupPageCount> kMakers{
-    make_graphs_page, make_functions_page, make_points_page, make_variables_page,
-    make_labels_page, make_types_page,     make_colors_page,
-};
-
 constexpr int kHelpButtonId = 9;
 
 // A numbered text of Graph Setup: the string table first, then the graph layer's own.
@@ -51,8 +45,13 @@ std::string SetupText(int id) {
 
 }  // namespace
 
+const SetupPageMakers kSetupPageMakers{
+    make_graphs_page, make_functions_page, make_points_page, make_variables_page,
+    make_labels_page, make_types_page,     make_colors_page,
+};
+
 GraphSetupSheet::GraphSetupSheet(Workbench &bench, DocumentWindow &owner, GraphSetupSession &setup,
-                                 std::optional<QPoint> at)
+                                 std::optional<QPoint> at, const SetupPageMakers &makers)
     : QDialog(&owner, Qt::Window), workbench(bench), document(owner), session(setup) {
     setWindowTitle(QString::fromUtf8(kGraphSetupTitle.data(),
                                      static_cast<qsizetype>(kGraphSetupTitle.size())));
@@ -68,7 +67,7 @@ GraphSetupSheet::GraphSetupSheet(Workbench &bench, DocumentWindow &owner, GraphS
 
     SetupPageContext context{workbench, document, session, *this};
     for (int index = 0; index < kSetupPageCount; ++index) {
-        MadeSetupPage made = kMakers[static_cast<std::size_t>(index)](context, tabs);
+        MadeSetupPage made = makers[static_cast<std::size_t>(index)](context, tabs);
         session.pages[static_cast<std::size_t>(index)] = made.model.get();
         models[static_cast<std::size_t>(index)] = std::move(made.model);
         widgets[static_cast<std::size_t>(index)] = made.widget;

@@ -27,12 +27,18 @@ namespace quindar {
 class GraphsPageModel;
 class SetupGraphWindow;
 
+// What makes each page, in the sheet's order.
+using SetupPageMaker = MadeSetupPage (*)(SetupPageContext &, QWidget *);
+using SetupPageMakers = std::array<SetupPageMaker, kSetupPageCount>;
+extern const SetupPageMakers kSetupPageMakers;
+
 class GraphSetupSheet : public QDialog, public SetupUi {
     Q_OBJECT
 public:
-    // `at`: the top left corner on the screen; none centres the sheet.
+    // `at`: the top left corner on the screen; none centres the sheet. `makers`: pages other
+    // than the program's own.
     GraphSetupSheet(Workbench &workbench, DocumentWindow &document, GraphSetupSession &session,
-                    std::optional<QPoint> at);
+                    std::optional<QPoint> at, const SetupPageMakers &makers = kSetupPageMakers);
     ~GraphSetupSheet() override;
 
     QTabWidget &Tabs() { return *tabs; }
