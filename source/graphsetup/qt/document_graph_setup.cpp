@@ -9,6 +9,7 @@
 #include "command_router.h"
 #include "command_table.h"
 #include "document_area.h"
+#include "document_panes.h"
 #include "document_window.h"
 #include "function_library_dialog.h"
 #include "function_solver_dialog.h"
@@ -27,6 +28,7 @@ namespace quindar {
 namespace {
 
 const QString kObjectName = QStringLiteral("documentGraphSetup");
+const QString kWiringName = QStringLiteral("graphSetupWiring");
 
 // What a document keeps of Graph Setup between two openings of the sheet.
 class DocumentGraphSetup : public QObject {
@@ -50,6 +52,7 @@ public:
             }
             return before && before(id, state);
         };
+        owner.Panes().graphFunctionsShowing = [this] { return functions_page_showing(document); };
         // The solver made later for this document hands "Insert F[x]" to the Functions page.
         owner.installEventFilter(this);
     }
@@ -88,37 +91,69 @@ DocumentGraphSetup &SetupOf(Workbench &workbench, DocumentWindow &document) {
     return *new DocumentGraphSetup(workbench, document);
 }
 
-// The Function Library, one for the program, hands its functions to the current document's
-// Functions page while it shows.
-class LibraryWiring : public QObject {
+// What Graph Setup needs of the program once its main window stands: the Function Library,
+// one for the program, hands its functions to the current document's Functions page while it
+// shows, and a sheet goes when another document comes forward.
+class ProgramWiring : public QObject {
 public:
-    explicit LibraryWiring(Workbench &bench) : QObject(&bench), workbench(bench) {}
+    explicit ProgramWiring(Workbench &bench) : QObject(&bench), workbench(bench) {
+        setObjectName(kWiringName);
+    }
+
+    void Wire() {
+        MainFrame *frame = workbench.Frame();
+        if (frame == nullptr || wired) return;
+        wired = true;
+        frame->installEventFilter(this);
+        for (FunctionLibraryDialog *library : frame->findChildren<FunctionLibraryDialog *>())
+            WireLibrary(*library);
+        if (DocumentArea *client = workbench.Client())
+            connect(client, &DocumentArea::currentDocumentChanged, this, [this] {
+                DocumentArea *area = workbench.Client();
+                DocumentWindow *current = area != nullptr ? area->Current() : nullptr;
+                // No document in front (the program lost the focus) leaves the sheet open.
+                if (current == nullptr || workbench.Frame() == nullptr) return;
+                for (GraphSetupSheet *sheet : workbench.Frame()->findChildren<GraphSetupSheet *>())
+                    if (sheet->parent() != current) sheet->reject();
+            });
+    }
 
     bool eventFilter(QObject *watched, QEvent *event) override {
-        if (event->type() == QEvent::ChildPolished && watched == workbench.Frame()) {
-            auto *child = static_cast<QChildEvent *>(event)->child();
-            if (auto *library = qobject_cast<FunctionLibraryDialog *>(child);
-                library != nullptr && !library->graphSetupOpen) {
-                Workbench *bench = &workbench;
-                const auto current = [bench]() -> DocumentWindow * {
-                    DocumentArea *client = bench->Client();
-                    return client != nullptr ? client->Current() : nullptr;
-                };
-                library->graphSetupOpen = [current] {
-                    DocumentWindow *document = current();
-                    return document != nullptr && functions_page_showing(*document);
-                };
-                library->addToGraphSetup = [current](const QString &text) {
-                    if (DocumentWindow *document = current())
-                        add_graph_function(*document, text.toStdString());
-                };
-            }
-        }
+        if (event->type() == QEvent::ChildPolished && watched == workbench.Frame())
+            if (auto *library = qobject_cast<FunctionLibraryDialog *>(
+                    static_cast<QChildEvent *>(event)->child()))
+                WireLibrary(*library);
         return QObject::eventFilter(watched, event);
     }
 
+private:
+    void WireLibrary(FunctionLibraryDialog &library) {
+        if (library.graphSetupOpen) return;
+        Workbench *bench = &workbench;
+        const auto current = [bench]() -> DocumentWindow * {
+            DocumentArea *client = bench->Client();
+            return client != nullptr ? client->Current() : nullptr;
+        };
+        library.graphSetupOpen = [current] {
+            DocumentWindow *document = current();
+            return document != nullptr && functions_page_showing(*document);
+        };
+        library.addToGraphSetup = [current](const QString &text) {
+            if (DocumentWindow *document = current())
+                add_graph_function(*document, text.toStdString());
+        };
+    }
+
     Workbench &workbench;
+    bool wired = false;
 };
+
+ProgramWiring &WiringOf(Workbench &workbench) {
+    // Found by name: the class has no meta-object of its own to be cast by.
+    if (QObject *found = workbench.findChild<QObject *>(kWiringName, Qt::FindDirectChildrenOnly))
+        return *static_cast<ProgramWiring *>(found);
+    return *new ProgramWiring(workbench);
+}
 
 }  // namespace
 
@@ -146,6 +181,7 @@ GraphSetupSheet *open_graph_setup(Workbench &workbench, DocumentWindow &document
     if (MainFrame *frame = workbench.Frame())
         for (GraphSetupSheet *other : frame->findChildren<GraphSetupSheet *>())
             if (other->parent() != &document) other->reject();
+    WiringOf(workbench).Wire();
     DocumentGraphSetup &setup = SetupOf(workbench, document);
     setup.WirePane();
     workbench.PlaySound("QClick.wav");
@@ -185,13 +221,9 @@ bool add_graph_function(DocumentWindow &document, const std::string &rowText) {
 void install_graph_setup_tools(Workbench &workbench) {
     auto before = workbench.documentTools;
     Workbench *bench = &workbench;
-    auto *library = new LibraryWiring(workbench);
-    workbench.documentTools = [before, bench, library](DocumentWindow &document, int id) {
-        if (MainFrame *frame = bench->Frame();
-            frame != nullptr && !frame->property("quindarGraphSetupWired").toBool()) {
-            frame->setProperty("quindarGraphSetupWired", true);
-            frame->installEventFilter(library);
-        }
+    WiringOf(workbench);
+    workbench.documentTools = [before, bench](DocumentWindow &document, int id) {
+        WiringOf(*bench).Wire();
         if (id == command::kGraphSetup) {
             open_graph_setup(*bench, document);
             return true;

@@ -9,6 +9,7 @@
 // typed line would; Compute All.
 
 #include <QWidget>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -54,6 +55,12 @@ public:
     bool DeleteFunction(int index, bool update, bool ask);
     void DeleteAllVariables();
     void DeleteAllFunctions();
+
+    // Whether a graph of the document plots the function of that full name (its deletion
+    // asks more firmly then), and whether Graph Setup's Functions page shows (it takes the
+    // news of a function added or edited in place of the manager's message).
+    std::function<bool(const std::string &fullName)> functionUsedInGraph;
+    std::function<bool()> graphFunctionsShowing;
 
     // The modal managers; a name preselects its entry.
     void OpenVariableManager(const std::string &name);

@@ -21,14 +21,17 @@
 #include "document_area.h"
 #include "document_graph_setup.h"
 #include "document_graph_tools.h"
+#include "document_panes.h"
 #include "document_window.h"
 #include "function_drag_list.h"
+#include "function_library_dialog.h"
 #include "function_solver_dialog.h"
 #include "functions_page.h"
 #include "graph_pane.h"
 #include "graph_setup_sheet.h"
 #include "graphs_page.h"
 #include "graphs_page_model.h"
+#include "main_frame.h"
 #include "message_box_rules.h"
 #include "parser.h"
 #include "setup_page_model.h"
@@ -126,6 +129,8 @@ private slots:
     void oneSheetInTheWholeProgram();
     void theSolversInsertGoesToTheFunctionsPage();
     void draggingARowBackTakesItOffTheGraph();
+    void deletingAFunctionAGraphPlotsAsksFirst();
+    void theFunctionLibraryInsertsIntoTheFunctionsPage();
     void screenshotsOfTheGraphsAndFunctionsPages();
 };
 
@@ -372,9 +377,14 @@ void GraphSetupSheetTest::oneSheetInTheWholeProgram() {
     QVERIFY(harness.Bench().Router().Execute(command::kFileNew));
     DocumentWindow &second = *harness.Current();
     QVERIFY(&second != &first);
-    QVERIFY(open_graph_setup(harness.Bench(), second) != nullptr);
+    // Another document in front closes the sheet of the first.
     QTRY_VERIFY(sheet.isNull());
-    QVERIFY(find_graph_setup(first) == nullptr);
+    QVERIFY(open_graph_setup(harness.Bench(), second) != nullptr);
+    harness.Client().Activate(0);
+    QCOMPARE(harness.Current(), &first);
+    sheet = open_graph_setup(harness.Bench(), first);
+    QTRY_VERIFY(find_graph_setup(second) == nullptr);
+    QVERIFY(!sheet.isNull());
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
@@ -429,6 +439,41 @@ void GraphSetupSheetTest::draggingARowBackTakesItOffTheGraph() {
     toGraph.setCurrentRow(0);
     QTest::keyClick(&toGraph, Qt::Key_Delete);
     QCOMPARE(toGraph.count(), 0);
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void GraphSetupSheetTest::deletingAFunctionAGraphPlotsAsksFirst() {
+    DesktopHarness harness;
+    Install(harness);
+    DocumentWindow &document = *harness.Current();
+    AddParabola(document);
+    Declare(document, "g[x]=2*x");
+    Parser &parser = document.Engine();
+    harness.boxes.Expect(QStringLiteral("Is Required For One Or More Defined Graphs"), kIdNo);
+    QVERIFY(!document.Panes().DeleteFunction(parser.find_function("f[x]"), true, false));
+    QVERIFY(parser.find_function("f[x]") >= 0);
+    // A function no graph plots goes without a question when none is asked for.
+    QVERIFY(document.Panes().DeleteFunction(parser.find_function("g[x]"), true, false));
+    QVERIFY(parser.find_function("g[x]") < 0);
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void GraphSetupSheetTest::theFunctionLibraryInsertsIntoTheFunctionsPage() {
+    DesktopHarness harness;
+    Install(harness);
+    DocumentWindow &document = *harness.Current();
+    AddParabola(document);
+    GraphSetupSheet *sheet = open_graph_setup(harness.Bench(), document);
+    QVERIFY(harness.Bench().RunClientTool(command::kFunctionLibrary));
+    auto *library = harness.Frame().findChild<FunctionLibraryDialog *>();
+    QVERIFY(library != nullptr);
+    QTRY_VERIFY(bool(library->graphSetupOpen));
+    QVERIFY(!library->graphSetupOpen());
+    QVERIFY(sheet->RequestPage(kPageFunctions));
+    QVERIFY(library->graphSetupOpen());
+    library->addToGraphSetup(QStringLiteral("COS[x]"));
+    QCOMPARE(Rows(FunctionsOf(*sheet).ToGraphList()), (QStringList{"f[x] = x^2", "COS[x]"}));
+    library->close();
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
