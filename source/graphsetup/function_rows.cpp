@@ -2,7 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 #include "function_rows.h"
 
-#include <cctype>
+#include <strings.h>
 
 #include "parser.h"
 
@@ -56,12 +56,7 @@ std::string declared_function_name(Parser &parser, const std::string &fullName) 
 }
 
 bool same_text_ignoring_case(const std::string &a, const std::string &b) {
-    if (a.size() != b.size()) return false;
-    for (std::size_t i = 0; i < a.size(); ++i)
-        if (std::tolower(static_cast<unsigned char>(a[i])) !=
-            std::tolower(static_cast<unsigned char>(b[i])))
-            return false;
-    return true;
+    return a.size() == b.size() && strcasecmp(a.c_str(), b.c_str()) == 0;
 }
 
 }  // namespace quindar

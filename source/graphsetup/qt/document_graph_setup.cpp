@@ -57,6 +57,9 @@ public:
         owner.installEventFilter(this);
     }
 
+    // The sheet goes before the session its pages work on.
+    ~DocumentGraphSetup() override { delete sheet.data(); }
+
     // Sets the graph pane's way into Graph Setup once the pane exists.
     void WirePane() {
         auto *pane = document.findChild<GraphPane *>(QString(), Qt::FindDirectChildrenOnly);
@@ -83,6 +86,7 @@ public:
     DocumentWindow &document;
     GraphSetupSession session;
     PaneGraphWindow window;
+    QPointer<GraphSetupSheet> sheet;
 };
 
 DocumentGraphSetup &SetupOf(Workbench &workbench, DocumentWindow &document) {
@@ -187,6 +191,7 @@ GraphSetupSheet *open_graph_setup(Workbench &workbench, DocumentWindow &document
     workbench.PlaySound("QClick.wav");
     setup.session.defaults = read_graph_defaults(workbench.Folders().settingsPath.c_str());
     auto *sheet = new GraphSetupSheet(workbench, document, setup.session, at);
+    setup.sheet = sheet;
     QObject::connect(sheet, &GraphSetupSheet::closing, &workbench,
                      [&workbench] { workbench.Router().UpdateActions(); });
     sheet->show();

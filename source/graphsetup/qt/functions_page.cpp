@@ -9,6 +9,7 @@
 
 #include "function_drag_list.h"
 #include "functions_page_model.h"
+#include "setup_controls.h"
 #include "setup_messages.h"
 #include "setup_page_widgets.h"
 
@@ -16,18 +17,9 @@ namespace quindar {
 
 namespace {
 
-QPushButton *MakeButton(const QString &text, int controlId, QWidget *parent) {
-    auto *button = new QPushButton(text, parent);
-    button->setAccessibleName(text);
-    button->setProperty("controlId", controlId);
-    button->setAutoDefault(false);
-    return button;
-}
-
 FunctionDragList *MakeList(const QString &name, int controlId, QWidget *parent) {
     auto *list = new FunctionDragList(parent);
-    list->setAccessibleName(name);
-    list->setProperty("controlId", controlId);
+    name_setup_control(*list, name, controlId);
     list->setSelectionMode(QAbstractItemView::SingleSelection);
     return list;
 }
@@ -55,10 +47,10 @@ FunctionsPage::FunctionsPage(FunctionsPageModel &model, QWidget *parent)
     layout->addWidget(toGraphList, 1, 2);
 
     auto *middle = new QVBoxLayout;
-    addButton = MakeButton(QStringLiteral("Add >>"), 24624, this);
-    removeButton = MakeButton(QStringLiteral("<< Remove"), 24625, this);
-    editButton = MakeButton(QStringLiteral("Edit Function"), 24626, this);
-    libraryButton = MakeButton(QStringLiteral("Func Library"), 24627, this);
+    addButton = make_setup_button(QStringLiteral("Add >>"), 24624, this);
+    removeButton = make_setup_button(QStringLiteral("<< Remove"), 24625, this);
+    editButton = make_setup_button(QStringLiteral("Edit Function"), 24626, this);
+    libraryButton = make_setup_button(QStringLiteral("Func Library"), 24627, this);
     addButton->setAccessibleName(QStringLiteral("Add"));
     removeButton->setAccessibleName(QStringLiteral("Remove"));
     middle->addStretch();

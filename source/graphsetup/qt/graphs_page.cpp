@@ -14,6 +14,7 @@
 #include "document_graph_setup.h"
 #include "document_window.h"
 #include "graphs_page_model.h"
+#include "setup_controls.h"
 #include "setup_messages.h"
 #include "setup_page_widgets.h"
 #include "setup_session.h"
@@ -22,18 +23,9 @@ namespace quindar {
 
 namespace {
 
-QPushButton *MakeButton(const QString &text, int controlId, QWidget *parent) {
-    auto *button = new QPushButton(text, parent);
-    button->setAccessibleName(text);
-    button->setProperty("controlId", controlId);
-    button->setAutoDefault(false);
-    return button;
-}
-
 QListWidget *MakeList(const QString &name, int controlId, QWidget *parent) {
     auto *list = new QListWidget(parent);
-    list->setAccessibleName(name);
-    list->setProperty("controlId", controlId);
+    name_setup_control(*list, name, controlId);
     return list;
 }
 
@@ -46,15 +38,14 @@ GraphsPage::GraphsPage(GraphsPageModel &model, QWidget *parent)
     auto *left = new QVBoxLayout;
     auto *nameLabel = new QLabel(QStringLiteral("Graph &Name:"), this);
     nameBox = new QLineEdit(this);
-    nameBox->setAccessibleName(QStringLiteral("Graph Name"));
-    nameBox->setProperty("controlId", kControlGraphName);
+    name_setup_control(*nameBox, QStringLiteral("Graph Name"), kControlGraphName);
     nameLabel->setBuddy(nameBox);
     left->addWidget(nameLabel);
     left->addWidget(nameBox);
     auto *nameButtons = new QHBoxLayout;
-    addButton = MakeButton(QStringLiteral("Add"), 20603, this);
-    editButton = MakeButton(QStringLiteral("Edit"), 20604, this);
-    deleteButton = MakeButton(QStringLiteral("Delete"), 20605, this);
+    addButton = make_setup_button(QStringLiteral("Add"), 20603, this);
+    editButton = make_setup_button(QStringLiteral("Edit"), 20604, this);
+    deleteButton = make_setup_button(QStringLiteral("Delete"), 20605, this);
     for (QPushButton *button : {addButton, editButton, deleteButton})
         nameButtons->addWidget(button);
     left->addLayout(nameButtons);
@@ -65,8 +56,8 @@ GraphsPage::GraphsPage(GraphsPageModel &model, QWidget *parent)
 
     auto *right = new QVBoxLayout;
     auto *actions = new QHBoxLayout;
-    buildButton = MakeButton(QStringLiteral("Build Graph"), 20607, this);
-    checkButton = MakeButton(QStringLiteral("Check Graph"), 20608, this);
+    buildButton = make_setup_button(QStringLiteral("Build Graph"), 20607, this);
+    checkButton = make_setup_button(QStringLiteral("Check Graph"), 20608, this);
     actions->addWidget(buildButton);
     actions->addWidget(checkButton);
     right->addLayout(actions);

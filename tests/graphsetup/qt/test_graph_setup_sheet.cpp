@@ -43,11 +43,6 @@ using namespace quindar::testing;
 
 namespace {
 
-void Install(DesktopHarness &harness) {
-    install_graph_tools(harness.Bench());
-    install_graph_setup_tools(harness.Bench());
-}
-
 void Declare(DocumentWindow &document, const char *line) {
     document.Engine().eval_exp(line, true, false);
     QVERIFY(!document.Engine().IsAnError());
@@ -78,6 +73,20 @@ GraphData &AddParabola(DocumentWindow &document) {
     content.currentGraph = graph;
     return *graph;
 }
+
+// The desktop program with the graph and Graph Setup tools, its first document in front,
+// with the parabola graph when asked; boxes the script left over fail the test at the end.
+struct SetupDesk {
+    explicit SetupDesk(bool parabola = false) : document(*harness.Current()) {
+        install_graph_tools(harness.Bench());
+        install_graph_setup_tools(harness.Bench());
+        if (parabola) AddParabola(document);
+    }
+    ~SetupDesk() { QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers())); }
+
+    DesktopHarness harness;
+    DocumentWindow &document;
+};
 
 // A page that refuses to be left while `refuse` holds, with a message and the focus kept on
 // its box, as a page with a wrong field does.
@@ -130,14 +139,15 @@ private slots:
     void theSolversInsertGoesToTheFunctionsPage();
     void draggingARowBackTakesItOffTheGraph();
     void deletingAFunctionAGraphPlotsAsksFirst();
+    void closingTheDocumentTakesItsSheetAlong();
     void theFunctionLibraryInsertsIntoTheFunctionsPage();
     void screenshotsOfTheGraphsAndFunctionsPages();
 };
 
 void GraphSetupSheetTest::sevenTabsWithTheButtonRowOfEachPage() {
-    DesktopHarness harness;
-    Install(harness);
-    DocumentWindow &document = *harness.Current();
+    SetupDesk desk;
+    DesktopHarness &harness = desk.harness;
+    DocumentWindow &document = desk.document;
     GraphSetupSheet *sheet = open_graph_setup(harness.Bench(), document);
     QVERIFY(sheet != nullptr);
     QVERIFY(sheet->isVisible());
@@ -173,13 +183,12 @@ void GraphSetupSheetTest::sevenTabsWithTheButtonRowOfEachPage() {
     sheet->reject();
     sheet = open_graph_setup(harness.Bench(), document);
     QCOMPARE(sheet->ShowingPage(), kPageFunctions);
-    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
 void GraphSetupSheetTest::aNewGraphIsWalkedToFinishBuiltSavedAndOpenedAgain() {
-    DesktopHarness harness;
-    Install(harness);
-    DocumentWindow &document = *harness.Current();
+    SetupDesk desk;
+    DesktopHarness &harness = desk.harness;
+    DocumentWindow &document = desk.document;
     Declare(document, "f[x]=x^2");
     QPointer<GraphSetupSheet> sheet = open_graph_setup(harness.Bench(), document);
     GraphsPage &graphs = GraphsOf(*sheet);
@@ -244,14 +253,12 @@ void GraphSetupSheetTest::aNewGraphIsWalkedToFinishBuiltSavedAndOpenedAgain() {
     QCOMPARE(read.GetNumFunctions(), 1);
     QCOMPARE(QString::fromStdString(read.GetFunction(0)->full_name), QStringLiteral("f[x]"));
     QCOMPARE(QString::fromStdString(read.GetFunction(0)->func_value), QStringLiteral("x^2"));
-    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
 void GraphSetupSheetTest::aPageWithAnErrorRefusesToBeLeftAndKeepsTheFocus() {
-    DesktopHarness harness;
-    Install(harness);
-    DocumentWindow &document = *harness.Current();
-    AddParabola(document);
+    SetupDesk desk(true);
+    DesktopHarness &harness = desk.harness;
+    DocumentWindow &document = desk.document;
     SetupPageMakers makers = kSetupPageMakers;
     makers[kPagePoints] = MakeRefusingPage;
     GraphSetupSession &session = document_setup_session(harness.Bench(), document);
@@ -287,13 +294,12 @@ void GraphSetupSheetTest::aPageWithAnErrorRefusesToBeLeftAndKeepsTheFocus() {
     sheet->EnableGraphSetup(true);
     QVERIFY(GraphsOf(*sheet).isEnabled());
     sheet->reject();
-    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
 void GraphSetupSheetTest::cancelLeavesTheDocumentsGraphUnchanged() {
-    DesktopHarness harness;
-    Install(harness);
-    DocumentWindow &document = *harness.Current();
+    SetupDesk desk;
+    DesktopHarness &harness = desk.harness;
+    DocumentWindow &document = desk.document;
     GraphData &stored = AddParabola(document);
     QPointer<GraphSetupSheet> sheet = open_graph_setup(harness.Bench(), document);
     QVERIFY(sheet->RequestPage(kPageFunctions));
@@ -311,14 +317,12 @@ void GraphSetupSheetTest::cancelLeavesTheDocumentsGraphUnchanged() {
     sheet = open_graph_setup(harness.Bench(), document);
     QCOMPARE(sheet->ShowingPage(), kPageFunctions);
     QCOMPARE(Rows(FunctionsOf(*sheet).ToGraphList()), QStringList{"f[x] = x^2"});
-    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
 void GraphSetupSheetTest::messagesComeTitledGraphingUtility() {
-    DesktopHarness harness;
-    Install(harness);
-    DocumentWindow &document = *harness.Current();
-    AddParabola(document);
+    SetupDesk desk(true);
+    DesktopHarness &harness = desk.harness;
+    DocumentWindow &document = desk.document;
     GraphSetupSheet *sheet = open_graph_setup(harness.Bench(), document);
     GraphsPage &graphs = GraphsOf(*sheet);
     graphs.NameBox().clear();
@@ -335,13 +339,12 @@ void GraphSetupSheetTest::messagesComeTitledGraphingUtility() {
     QCOMPARE(graphs.NameBox().text(), QStringLiteral("DefaultGraphName"));
     QVERIFY(!graphs.EditButton().isEnabled());
     QVERIFY(document.Changes().graphsChanged);
-    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
 void GraphSetupSheetTest::theGraphPaneOpensTheSheetAndTheButtonShowsIt() {
-    DesktopHarness harness;
-    Install(harness);
-    DocumentWindow &document = *harness.Current();
+    SetupDesk desk;
+    DesktopHarness &harness = desk.harness;
+    DocumentWindow &document = desk.document;
     CommandRouter &router = harness.Bench().Router();
     QVERIFY(!router.State(command::kGraphSetup).enabled);
     // The graph window with nothing to draw opens Graph Setup beside it.
@@ -366,13 +369,12 @@ void GraphSetupSheetTest::theGraphPaneOpensTheSheetAndTheButtonShowsIt() {
     QTRY_VERIFY(find_graph_setup(document) == nullptr);
     QVERIFY(router.Execute(command::kGraphSetup));
     QVERIFY(find_graph_setup(document) != nullptr);
-    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
 void GraphSetupSheetTest::oneSheetInTheWholeProgram() {
-    DesktopHarness harness;
-    Install(harness);
-    DocumentWindow &first = *harness.Current();
+    SetupDesk desk;
+    DesktopHarness &harness = desk.harness;
+    DocumentWindow &first = desk.document;
     QPointer<GraphSetupSheet> sheet = open_graph_setup(harness.Bench(), first);
     QVERIFY(harness.Bench().Router().Execute(command::kFileNew));
     DocumentWindow &second = *harness.Current();
@@ -385,14 +387,12 @@ void GraphSetupSheetTest::oneSheetInTheWholeProgram() {
     sheet = open_graph_setup(harness.Bench(), first);
     QTRY_VERIFY(find_graph_setup(second) == nullptr);
     QVERIFY(!sheet.isNull());
-    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
 void GraphSetupSheetTest::theSolversInsertGoesToTheFunctionsPage() {
-    DesktopHarness harness;
-    Install(harness);
-    DocumentWindow &document = *harness.Current();
-    AddParabola(document);
+    SetupDesk desk(true);
+    DesktopHarness &harness = desk.harness;
+    DocumentWindow &document = desk.document;
     GraphSetupSheet *sheet = open_graph_setup(harness.Bench(), document);
     QVERIFY(!functions_page_showing(document));
     QVERIFY(sheet->RequestPage(kPageFunctions));
@@ -404,14 +404,12 @@ void GraphSetupSheetTest::theSolversInsertGoesToTheFunctionsPage() {
     QTest::mouseClick(solver->InsertFunctionButton(), Qt::LeftButton);
     QCOMPARE(Rows(FunctionsOf(*sheet).ToGraphList()), (QStringList{"f[x] = x^2", "SIN[x]"}));
     solver->close();
-    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
 void GraphSetupSheetTest::draggingARowBackTakesItOffTheGraph() {
-    DesktopHarness harness;
-    Install(harness);
-    DocumentWindow &document = *harness.Current();
-    AddParabola(document);
+    SetupDesk desk(true);
+    DesktopHarness &harness = desk.harness;
+    DocumentWindow &document = desk.document;
     Declare(document, "g[x]=2*x");
     GraphSetupSheet *sheet = open_graph_setup(harness.Bench(), document);
     sheet->resize(700, 450);
@@ -439,14 +437,23 @@ void GraphSetupSheetTest::draggingARowBackTakesItOffTheGraph() {
     toGraph.setCurrentRow(0);
     QTest::keyClick(&toGraph, Qt::Key_Delete);
     QCOMPARE(toGraph.count(), 0);
-    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void GraphSetupSheetTest::closingTheDocumentTakesItsSheetAlong() {
+    SetupDesk desk;
+    DesktopHarness &harness = desk.harness;
+    DocumentWindow *document = &desk.document;
+    QPointer<GraphSetupSheet> sheet = open_graph_setup(harness.Bench(), *document);
+    QVERIFY(sheet->RequestPage(kPageFunctions));
+    harness.Bench().CloseDocument(document);
+    QTRY_VERIFY(sheet.isNull());
+    QVERIFY(harness.Current() == nullptr);
 }
 
 void GraphSetupSheetTest::deletingAFunctionAGraphPlotsAsksFirst() {
-    DesktopHarness harness;
-    Install(harness);
-    DocumentWindow &document = *harness.Current();
-    AddParabola(document);
+    SetupDesk desk(true);
+    DesktopHarness &harness = desk.harness;
+    DocumentWindow &document = desk.document;
     Declare(document, "g[x]=2*x");
     Parser &parser = document.Engine();
     harness.boxes.Expect(QStringLiteral("Is Required For One Or More Defined Graphs"), kIdNo);
@@ -455,14 +462,12 @@ void GraphSetupSheetTest::deletingAFunctionAGraphPlotsAsksFirst() {
     // A function no graph plots goes without a question when none is asked for.
     QVERIFY(document.Panes().DeleteFunction(parser.find_function("g[x]"), true, false));
     QVERIFY(parser.find_function("g[x]") < 0);
-    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
 void GraphSetupSheetTest::theFunctionLibraryInsertsIntoTheFunctionsPage() {
-    DesktopHarness harness;
-    Install(harness);
-    DocumentWindow &document = *harness.Current();
-    AddParabola(document);
+    SetupDesk desk(true);
+    DesktopHarness &harness = desk.harness;
+    DocumentWindow &document = desk.document;
     GraphSetupSheet *sheet = open_graph_setup(harness.Bench(), document);
     QVERIFY(harness.Bench().RunClientTool(command::kFunctionLibrary));
     auto *library = harness.Frame().findChild<FunctionLibraryDialog *>();
@@ -474,14 +479,12 @@ void GraphSetupSheetTest::theFunctionLibraryInsertsIntoTheFunctionsPage() {
     library->addToGraphSetup(QStringLiteral("COS[x]"));
     QCOMPARE(Rows(FunctionsOf(*sheet).ToGraphList()), (QStringList{"f[x] = x^2", "COS[x]"}));
     library->close();
-    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
 void GraphSetupSheetTest::screenshotsOfTheGraphsAndFunctionsPages() {
-    DesktopHarness harness;
-    Install(harness);
-    DocumentWindow &document = *harness.Current();
-    AddParabola(document);
+    SetupDesk desk(true);
+    DesktopHarness &harness = desk.harness;
+    DocumentWindow &document = desk.document;
     Declare(document, "g[x]=2*x");
     GraphSetupSheet *sheet = open_graph_setup(harness.Bench(), document);
     GraphsOf(*sheet).ErrorList().addItem(QStringLiteral("An error occured at x = 2 : example"));
@@ -491,7 +494,6 @@ void GraphSetupSheetTest::screenshotsOfTheGraphsAndFunctionsPages() {
     QVERIFY(sheet->RequestPage(kPageFunctions));
     const QImage functionsShot = sheet->grab().toImage();
     QVERIFY(functionsShot.save(QStringLiteral(QUINDAR_BUILD_DIR "graph_setup_functions.png")));
-    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
 QTEST_MAIN(GraphSetupSheetTest)
