@@ -20,6 +20,7 @@
 #include "command_table.h"
 #include "document_panes.h"
 #include "document_window.h"
+#include "functions_page_model.h"
 #include "graph_messages.h"
 #include "graphs_page_model.h"
 #include "math_editor_widget.h"
@@ -264,6 +265,18 @@ bool GraphSetupSheet::eventFilter(QObject *watched, QEvent *event) {
     if (watched == tabs && event->type() == QEvent::KeyPress)
         return TabKey(*static_cast<QKeyEvent *>(event));
     return QDialog::eventFilter(watched, event);
+}
+
+bool GraphSetupSheet::event(QEvent *event) {
+    auto *functions = dynamic_cast<FunctionsPageModel *>(models[kPageFunctions].get());
+    if (event->type() == QEvent::WindowActivate && shown == kPageFunctions && pagesEnabled &&
+        functions != nullptr && !refreshing) {
+        refreshing = true;
+        functions->UpdatePage();
+        widgets[kPageFunctions]->UpdatePage();
+        refreshing = false;
+    }
+    return QDialog::event(event);
 }
 
 int GraphSetupSheet::Message(int textId, std::initializer_list<std::string_view> fields,

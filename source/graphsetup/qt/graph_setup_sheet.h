@@ -84,6 +84,8 @@ signals:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    // Back in front, the Functions page takes what the Math Editor declared meanwhile.
+    bool event(QEvent *event) override;
 
 private:
     void ShowPage(int index);
@@ -107,6 +109,7 @@ private:
     std::set<int> changedPages;
     int shown = -1;
     bool leaving = false;
+    bool refreshing = false;
     bool pagesEnabled = true;
 };
 

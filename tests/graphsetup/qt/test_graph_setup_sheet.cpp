@@ -433,6 +433,11 @@ void GraphSetupSheetTest::draggingARowBackTakesItOffTheGraph() {
     QCOMPARE(Rows(defined).size(), 2);
     drag(toGraph, 0, defined);
     QCOMPARE(Rows(toGraph), QStringList{"g[x] = 2*x"});
+    // A function declared meanwhile shows when the sheet comes forward again.
+    Declare(document, "h[x]=x+1");
+    QEvent activate(QEvent::WindowActivate);
+    QApplication::sendEvent(sheet, &activate);
+    QCOMPARE(Rows(defined), (QStringList{"f[x] = x^2", "g[x] = 2*x", "h[x] = x+1"}));
     QCOMPARE(document_setup_session(harness.Bench(), document).temp.GetNumFunctions(), 1);
     toGraph.setCurrentRow(0);
     QTest::keyClick(&toGraph, Qt::Key_Delete);
