@@ -263,9 +263,10 @@ bool GraphsPageModel::BuildGraph() {
         window.Recreate();
     else
         GraphWindowBuild();
-    if (window.HasBuildErrors()) ReportBuildErrors();
+    const bool failed = window.HasBuildErrors();
+    if (failed) ReportBuildErrors();
     ui.EnableGraphSetup(true);
-    return true;
+    return !failed;
 }
 
 void GraphsPageModel::GraphFunctions() {

@@ -50,7 +50,9 @@ public:
     void Delete();
     void SelectRow(int row);
     void CheckGraph();
-    // True unless the build is to stop the caller; false only for a failed Finish.
+    // Builds the working copy in the graph window. False when the build left errors in the
+    // list, so that Finish keeps the sheet open on them; true otherwise, also when nothing
+    // was built.
     bool BuildGraph();
     // The entry buttons "Graph Functions" and "Graph Data Points".
     void GraphFunctions();

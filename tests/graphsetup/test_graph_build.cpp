@@ -68,7 +68,7 @@ TEST_F(GraphBuild, ErrorsSelectTheGraphsPageAndTheLastErrorRow) {
     OneGraph();
     window.errorLines = {"An error occured at x = 0 : Division by zero"};
     ui.Expect(24638);
-    graphs.BuildGraph();
+    EXPECT_FALSE(graphs.BuildGraph());
     EXPECT_EQ(ui.messages.back().fields, (std::vector<std::string>{"Square"}));
     EXPECT_EQ(ui.messages.back().flags, kBoxInformation);
     EXPECT_EQ(ui.selected.back(), kPageGraphs);

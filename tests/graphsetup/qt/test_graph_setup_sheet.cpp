@@ -133,6 +133,7 @@ private slots:
     void aNewGraphIsWalkedToFinishBuiltSavedAndOpenedAgain();
     void aPageWithAnErrorRefusesToBeLeftAndKeepsTheFocus();
     void cancelLeavesTheDocumentsGraphUnchanged();
+    void aBuildWithErrorsListsThemAndKeepsTheSheet();
     void messagesComeTitledGraphingUtility();
     void theGraphPaneOpensTheSheetAndTheButtonShowsIt();
     void oneSheetInTheWholeProgram();
@@ -317,6 +318,33 @@ void GraphSetupSheetTest::cancelLeavesTheDocumentsGraphUnchanged() {
     sheet = open_graph_setup(harness.Bench(), document);
     QCOMPARE(sheet->ShowingPage(), kPageFunctions);
     QCOMPARE(Rows(FunctionsOf(*sheet).ToGraphList()), QStringList{"f[x] = x^2"});
+}
+
+void GraphSetupSheetTest::aBuildWithErrorsListsThemAndKeepsTheSheet() {
+    SetupDesk desk;
+    DesktopHarness &harness = desk.harness;
+    DocumentWindow &document = desk.document;
+    Declare(document, "h[x]=1/(x-2)");
+    GraphData *graph = add_new_graph(document.Content().graphs, "Pole", nullptr);
+    graph->AddFunction("h[x]", "1/(x-2)");
+    const Variable x("x", complex{0, 0}, complex{4, 0}, 5);
+    graph->SetXAxisVar(&x);
+    QPointer<GraphSetupSheet> sheet = open_graph_setup(harness.Bench(), document);
+    QVERIFY(sheet->RequestPage(kPageFunctions));
+    harness.boxes.Expect(QStringLiteral("Errors occured while calculating the data for the graph "
+                                        "\"Pole\""),
+                         kIdOk);
+    sheet->RequestPage(kPageColors);
+    QTest::mouseClick(&sheet->NextButton(), Qt::LeftButton);  // Finish
+    QVERIFY(!sheet.isNull());
+    QCOMPARE(sheet->ShowingPage(), kPageGraphs);
+    QListWidget &errors = GraphsOf(*sheet).ErrorList();
+    QCOMPARE(errors.count(), 1);
+    QVERIFY(errors.item(0)->text().startsWith(QStringLiteral("An error occured at x = 2")));
+    QTRY_COMPARE(errors.currentRow(), 0);
+    QCOMPARE(sheet->focusWidget(), static_cast<QWidget *>(&errors));
+    QVERIFY(sheet->PagesEnabled());
+    QVERIFY(!document_graph_pane(harness.Bench(), document).isHidden());
 }
 
 void GraphSetupSheetTest::messagesComeTitledGraphingUtility() {
