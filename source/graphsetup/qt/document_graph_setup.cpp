@@ -57,8 +57,12 @@ public:
         owner.installEventFilter(this);
     }
 
-    // The sheet goes before the session its pages work on.
-    ~DocumentGraphSetup() override { delete sheet.data(); }
+    // A sheet goes before the session its pages work on (the document made this first).
+    ~DocumentGraphSetup() override {
+        for (GraphSetupSheet *sheet :
+             document.findChildren<GraphSetupSheet *>(Qt::FindDirectChildrenOnly))
+            delete sheet;
+    }
 
     // Sets the graph pane's way into Graph Setup once the pane exists.
     void WirePane() {
@@ -86,7 +90,6 @@ public:
     DocumentWindow &document;
     GraphSetupSession session;
     PaneGraphWindow window;
-    QPointer<GraphSetupSheet> sheet;
 };
 
 DocumentGraphSetup &SetupOf(Workbench &workbench, DocumentWindow &document) {
@@ -191,7 +194,6 @@ GraphSetupSheet *open_graph_setup(Workbench &workbench, DocumentWindow &document
     workbench.PlaySound("QClick.wav");
     setup.session.defaults = read_graph_defaults(workbench.Folders().settingsPath.c_str());
     auto *sheet = new GraphSetupSheet(workbench, document, setup.session, at);
-    setup.sheet = sheet;
     QObject::connect(sheet, &GraphSetupSheet::closing, &workbench,
                      [&workbench] { workbench.Router().UpdateActions(); });
     sheet->show();

@@ -15,6 +15,7 @@
 #include <QTabWidget>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <utility>
 #include <vector>
 
 #include "command_table.h"
@@ -130,9 +131,11 @@ GraphSetupSheet::GraphSetupSheet(Workbench &bench, DocumentWindow &owner, GraphS
 GraphSetupSheet::~GraphSetupSheet() {
     session.lastSetupPage = ShowingPage() >= 0 ? ShowingPage() : session.lastSetupPage;
     session.pages.fill(nullptr);
-    // The page widgets go before the models they show.
-    delete tabs;
-    tabs = nullptr;
+    // The page widgets go before the models they show; the tab bar asks nothing meanwhile.
+    QTabWidget *dying = std::exchange(tabs, nullptr);
+    dying->tabBar()->removeEventFilter(this);
+    dying->removeEventFilter(this);
+    delete dying;
 }
 
 GraphsPageModel &GraphSetupSheet::GraphsModel() const {
