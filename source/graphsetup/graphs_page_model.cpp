@@ -258,11 +258,8 @@ bool GraphsPageModel::BuildGraph() {
     if (!DataCheck(session.temp)) return true;
     ui.EnableGraphSetup(false);
     // A document never saved has nothing new to compute: the window is made again from what
-    // it holds.
-    if (!session.temp.NeedsData && documentPath.empty())
-        window.Recreate();
-    else
-        GraphWindowBuild();
+    // it holds, if it holds anything.
+    if (session.temp.NeedsData || !documentPath.empty() || !window.Recreate()) GraphWindowBuild();
     const bool failed = window.HasBuildErrors();
     if (failed) ReportBuildErrors();
     ui.EnableGraphSetup(true);

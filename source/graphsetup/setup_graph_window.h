@@ -26,8 +26,9 @@ public:
     virtual bool Build(GraphData &graph, const std::function<void(std::string_view)> &addError) = 0;
     // Draws the shown graph again with the attributes of graph; its data stays.
     virtual void Refresh(GraphData &graph) = 0;
-    // Makes the window afresh from the graph it holds, data computed again.
-    virtual void Recreate() = 0;
+    // Makes the window afresh from the graph it holds, data computed again; false when it
+    // holds none.
+    virtual bool Recreate() = 0;
     // The last build or refresh left rows in the error list.
     virtual bool HasBuildErrors() const = 0;
 };

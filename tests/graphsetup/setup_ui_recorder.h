@@ -119,13 +119,15 @@ public:
         refreshes.push_back(graph.Name);
         buildErrors = false;
     }
-    void Recreate() override {
+    bool Recreate() override {
         ++recreated;
         buildErrors = false;
+        return holdsGraph;
     }
     bool HasBuildErrors() const override { return buildErrors; }
 
     bool exists = true;
+    bool holdsGraph = true;
     std::string shown;
     std::vector<std::string> errorLines;
     bool buildErrors = false;

@@ -49,15 +49,18 @@ TEST_F(GraphBuild, NoDataChangeOnANeverSavedDocumentRecreatesTheWindow) {
     const struct {
         bool needsData;
         const char *path;
+        bool holds;
         int builds, recreated;
     } cases[] = {
-        {false, "", 0, 1},
-        {false, "/tmp/a.qnd", 1, 1},
-        {true, "", 2, 1},
+        {false, "", true, 0, 1},
+        {false, "/tmp/a.qnd", true, 1, 1},
+        {true, "", true, 2, 1},
+        {false, "", false, 3, 2},
     };
     for (const auto &c : cases) {
         session.temp.NeedsData = c.needsData;
         graphs.documentPath = c.path;
+        window.holdsGraph = c.holds;
         graphs.BuildGraph();
         EXPECT_EQ(static_cast<int>(window.builds.size()), c.builds) << c.path;
         EXPECT_EQ(window.recreated, c.recreated) << c.path;

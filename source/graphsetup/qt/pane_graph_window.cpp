@@ -54,11 +54,12 @@ void PaneGraphWindow::Refresh(GraphData &graph) {
     pane->Redraw(document.Engine().angle_mode);
 }
 
-void PaneGraphWindow::Recreate() {
+bool PaneGraphWindow::Recreate() {
     GraphPane *pane = Pane();
-    if (pane == nullptr || pane->Shown() == nullptr) return;
+    if (pane == nullptr || pane->Shown() == nullptr) return false;
     const GraphData held(*pane->Shown());
     BuildCopy(held, lastAddError);
+    return true;
 }
 
 }  // namespace quindar

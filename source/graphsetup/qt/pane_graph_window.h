@@ -22,7 +22,7 @@ public:
     bool ShowsGraphNamed(const std::string &name) const override;
     bool Build(GraphData &graph, const std::function<void(std::string_view)> &addError) override;
     void Refresh(GraphData &graph) override;
-    void Recreate() override;
+    bool Recreate() override;
     bool HasBuildErrors() const override { return errorLines > 0; }
 
 private:
