@@ -76,17 +76,20 @@ FunctionsPage::FunctionsPage(FunctionsPageModel &model, QWidget *parent)
         connect(list, &QListWidget::itemDoubleClicked, this,
                 [this, which] { Do([this, which] { functions.EditFunctions(which); }); });
     }
-    connect(definedList, &QListWidget::currentRowChanged, this,
-            [this](int row) { functions.definedSelected = row; });
-    connect(toGraphList, &QListWidget::currentRowChanged, this,
-            [this](int row) { functions.toGraphSelected = row; });
+    connect(definedList, &QListWidget::currentRowChanged, this, [this](int row) {
+        functions.definedSelected = row;
+        if (row >= 0) lastChosenList = FunctionsPageModel::kDefined;
+    });
+    connect(toGraphList, &QListWidget::currentRowChanged, this, [this](int row) {
+        functions.toGraphSelected = row;
+        if (row >= 0) lastChosenList = FunctionsPageModel::kToGraph;
+    });
     connect(addButton, &QPushButton::clicked, this, [this] { Do([this] { functions.Add(); }); });
     connect(removeButton, &QPushButton::clicked, this,
             [this] { Do([this] { functions.Remove(); }); });
     connect(editButton, &QPushButton::clicked, this, [this] {
         Do([this] {
-            functions.EditFunctions(toGraphList->hasFocus() ? FunctionsPageModel::kToGraph
-                                                            : FunctionsPageModel::kDefined);
+            functions.EditFunctions(static_cast<FunctionsPageModel::List>(lastChosenList));
         });
     });
     connect(libraryButton, &QPushButton::clicked, this, [this] { functions.FunctionLibrary(); });

@@ -35,6 +35,8 @@ private:
     void Dropped(FunctionDragList *from, int row, FunctionDragList *target, int to);
 
     FunctionsPageModel &functions;
+    // The list whose row the user chose last: "Edit Function" opens the manager on it.
+    int lastChosenList = 0;
     FunctionDragList *definedList = nullptr;
     FunctionDragList *toGraphList = nullptr;
     QPushButton *addButton = nullptr;

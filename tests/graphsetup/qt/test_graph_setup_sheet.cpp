@@ -4,6 +4,7 @@
 // walked from the Graphs page to Finish and built in the graph pane, a page that refuses to
 // be left, Cancel, the document saved and opened again, and the ways into the sheet.
 
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -139,6 +140,7 @@ private slots:
     void oneSheetInTheWholeProgram();
     void theSolversInsertGoesToTheFunctionsPage();
     void draggingARowBackTakesItOffTheGraph();
+    void aFunctionDeletedInTheManagerLeavesTheGraph();
     void deletingAFunctionAGraphPlotsAsksFirst();
     void closingTheDocumentTakesItsSheetAlong();
     void theFunctionLibraryInsertsIntoTheFunctionsPage();
@@ -512,6 +514,30 @@ void GraphSetupSheetTest::theFunctionLibraryInsertsIntoTheFunctionsPage() {
     library->addToGraphSetup(QStringLiteral("COS[x]"));
     QCOMPARE(Rows(FunctionsOf(*sheet).ToGraphList()), (QStringList{"f[x] = x^2", "COS[x]"}));
     library->close();
+}
+
+void GraphSetupSheetTest::aFunctionDeletedInTheManagerLeavesTheGraph() {
+    SetupDesk desk(true);
+    DesktopHarness &harness = desk.harness;
+    DocumentWindow &document = desk.document;
+    GraphSetupSheet *sheet = open_graph_setup(harness.Bench(), document);
+    QVERIFY(sheet->RequestPage(kPageFunctions));
+    FunctionsPage &functions = FunctionsOf(*sheet);
+    functions.ToGraphList().setCurrentRow(0);
+    QString managerShown;
+    harness.Bench().runDialog = [&](QDialog &dialog) {
+        if (auto *name = dialog.findChild<QComboBox *>()) managerShown = name->currentText();
+        Parser &parser = document.Engine();
+        parser.delete_function(parser.find_function("f[x]"));
+    };
+    harness.boxes.Expect(QStringLiteral("The function \"f[x] = x^2\" is no longer defined and "
+                                        "will be removed from \"G\"!"),
+                         kIdOk);
+    QTest::mouseClick(&functions.EditButton(), Qt::LeftButton);
+    QCOMPARE(managerShown, QStringLiteral("f(x)"));  // the manager shows the document's brackets
+    QCOMPARE(functions.ToGraphList().count(), 0);
+    QCOMPARE(functions.DefinedList().count(), 0);
+    QVERIFY(sheet->ApplyButton().isEnabled());
 }
 
 void GraphSetupSheetTest::screenshotsOfTheGraphsAndFunctionsPages() {
