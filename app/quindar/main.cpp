@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "desktop_folders.h"
+#include "document_graph_setup.h"
 #include "document_graph_tools.h"
 #include "main_frame.h"
 #include "platform_services.h"
@@ -46,6 +47,7 @@ int main(int argc, char **argv) {
     quindar::Workbench workbench(services, folders);
     services.runCommand = [&workbench](int id) { workbench.Router().Execute(id); };
     quindar::install_graph_tools(workbench);
+    quindar::install_graph_setup_tools(workbench);
     quindar::MainFrame *frame = workbench.Start(words);
     frame->showMaximized();
     workbench.AfterShow();

@@ -29,4 +29,9 @@ void GraphSetupSession::Mark(SetupUi &ui, bool needsData) {
         temp.NeedsAttributes = true;
 }
 
+void GraphSetupSession::GraphsChanged() {
+    graphsChanged = true;
+    if (graphsChangedHook) graphsChangedHook();
+}
+
 }  // namespace quindar

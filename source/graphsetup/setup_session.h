@@ -6,6 +6,7 @@
 // the document keeps the session, and the next opening reloads it from the current graph.
 
 #include <array>
+#include <functional>
 
 #include "graph_data.h"
 #include "graph_defaults.h"
@@ -30,6 +31,8 @@ struct GraphSetupSession {
     GraphDefaults defaults;
     // Set when the list of graphs or one of them changed; the document saves it.
     bool graphsChanged = false;
+    // Told at each GraphsChanged, so that the document asks to be saved.
+    std::function<void()> graphsChangedHook;
     int wizardPath = kWizardNone;
     // The page id last activated (setup_pages.h), and the index showing when the sheet closed.
     int curPageId = 1006;
@@ -45,6 +48,8 @@ struct GraphSetupSession {
     // What every edit on a page does: arms Apply, marks the current graph modified, and asks
     // for new chart data (`needsData`) or only new attributes.
     void Mark(SetupUi &ui, bool needsData);
+    // Sets graphsChanged and tells the document.
+    void GraphsChanged();
 };
 
 }  // namespace quindar

@@ -39,6 +39,14 @@ public:
     virtual bool AddEditFunction(const std::string &name, const std::string &value) = 0;
     // The document's Variable Manager on `name`; true when it was opened.
     virtual bool EditVariable(const std::string &name) = 0;
+
+    // Enables or disables every page but Colors while a build runs, so that the working copy
+    // stays as it is meanwhile. A window without a build has nothing to do.
+    virtual void EnableGraphSetup(bool /*enable*/) {}
+    // The document's Function Manager, modal, on `name` (empty: none chosen); the program's
+    // Function Library. Only the Functions page opens them.
+    virtual void OpenFunctionManager(const std::string & /*name*/) {}
+    virtual void OpenFunctionLibrary() {}
 };
 
 }  // namespace quindar

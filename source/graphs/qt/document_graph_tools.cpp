@@ -62,7 +62,11 @@ public:
             activity.buildingGraph = activity.buildingGraph || pane->Building();
             return activity;
         };
-        doc.toolState = [this](int id, CommandState &state) { return State(id, state); };
+        // Other tools of the document may answer states of their own.
+        auto beforeState = doc.toolState;
+        doc.toolState = [this, beforeState](int id, CommandState &state) {
+            return State(id, state) || (beforeState && beforeState(id, state));
+        };
         doc.paneCaption = [this] { return GraphShowing() ? caption : QString(); };
         pane->setContextMenuPolicy(Qt::CustomContextMenu);
         connect(pane, &QWidget::customContextMenuRequested, this, [this](QPoint at) {
@@ -256,17 +260,26 @@ public:
         DocumentContent &content = document.Content();
         if (content.currentGraph == nullptr || pane->Building()) return;
         if (pane->HasChart() && !content.currentGraph->NeedsData) return;
-        GraphBuildOutput output;
-        output.show_message = [this](std::string_view text, std::string_view caption) {
-            workbench.Messages().ShowPlain(pane, QString::fromUtf8(text.data(), int(text.size())),
-                                           QString::fromUtf8(caption.data(), int(caption.size())),
-                                           kBoxWarning);
-        };
-        output.play_sound = [this](std::string_view wave) { workbench.PlaySound(wave); };
-        caption = QString::fromStdString(
-            graph_window_caption(TextCaption().toStdString(), content.currentGraph->Name));
+        BuildShown(*content.currentGraph, {});
+    }
+
+    // Shows the pane and builds graph there; messages and sounds go to the program's own
+    // when output leaves them out.
+    bool BuildShown(const GraphData &graph, GraphBuildOutput output) {
+        ShowPane();
+        if (pane->Building()) return false;
+        if (!output.show_message)
+            output.show_message = [this](std::string_view text, std::string_view caption) {
+                workbench.Messages().ShowPlain(
+                    pane, QString::fromUtf8(text.data(), int(text.size())),
+                    QString::fromUtf8(caption.data(), int(caption.size())), kBoxWarning);
+            };
+        if (!output.play_sound)
+            output.play_sound = [this](std::string_view wave) { workbench.PlaySound(wave); };
+        caption =
+            QString::fromStdString(graph_window_caption(TextCaption().toStdString(), graph.Name));
         CaptionChanged();
-        pane->Build(document.Engine(), *content.currentGraph, &content.graphs, output);
+        return pane->Build(document.Engine(), graph, &document.Content().graphs, output);
     }
 
     bool ToText() {
@@ -398,6 +411,11 @@ QMenu *make_graph_popup(Workbench &workbench, QWidget *parent) {
 
 GraphPane &document_graph_pane(Workbench &workbench, DocumentWindow &document) {
     return GraphsOf(workbench, document).Pane();
+}
+
+bool build_in_graph_pane(Workbench &workbench, DocumentWindow &document, const GraphData &graph,
+                         const GraphBuildOutput &output) {
+    return GraphsOf(workbench, document).BuildShown(graph, output);
 }
 
 void install_graph_tools(Workbench &workbench) {

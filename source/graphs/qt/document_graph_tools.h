@@ -8,12 +8,15 @@
 
 #include <QObject>
 
+#include "graph_builder.h"
+
 class QMenu;
 class QWidget;
 
 namespace quindar {
 
 class DocumentWindow;
+class GraphData;
 class GraphPane;
 class Workbench;
 
@@ -27,5 +30,10 @@ QMenu *make_graph_popup(Workbench &workbench, QWidget *parent);
 
 // The graph pane of a document, made on first use.
 GraphPane &document_graph_pane(Workbench &workbench, DocumentWindow &document);
+
+// Shows the document's graph pane and builds graph there (Graph Setup's working copy); true
+// when the data is complete.
+bool build_in_graph_pane(Workbench &workbench, DocumentWindow &document, const GraphData &graph,
+                         const GraphBuildOutput &output);
 
 }  // namespace quindar

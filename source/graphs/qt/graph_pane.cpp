@@ -8,8 +8,8 @@
 #include <utility>
 
 #include "chart_camera.h"
-#include "chart_runs.h"
 #include "chart_decisions.h"
+#include "chart_runs.h"
 #include "chart_view_2d.h"
 #include "chart_view_3d.h"
 #include "graph_compute_host.h"
@@ -205,9 +205,16 @@ void GraphPane::Toggle3DLabel(int ix, int iz) {
 }
 
 void GraphPane::DoubleClick(QPoint position) {
+    if (!HasChart()) {
+        if (openSetup) openSetup(chart2D->mapToGlobal(position));
+        return;
+    }
     if (CurrentView() != chart2D) return;
     const int region = chart2D->pick(position).region;
-    if (region != kRegionHeader && region != kRegionFooter) return;
+    if (region != kRegionHeader && region != kRegionFooter) {
+        if (openSetup) openSetup(chart2D->mapToGlobal(position));
+        return;
+    }
     if (titleEditor != nullptr) CommitTitle();
     titleKind = region == kRegionHeader ? 0 : 1;
     const QRect rect = titleKind == 0 ? chart2D->headerRect() : chart2D->footerRect();
@@ -249,6 +256,10 @@ void GraphPane::Click(QPoint position) {
         const int region = chart2D->pick(position).region;
         if (region == (titleKind == 0 ? kRegionHeader : kRegionFooter)) return;
         CommitTitle();
+    }
+    if (!HasChart()) {
+        if (openSetup) openSetup(chart2D->mapToGlobal(position));
+        return;
     }
     if (!pointLabelsOn || CurrentView() != chart2D) return;
     const ChartPick hit = chart2D->pick(position);

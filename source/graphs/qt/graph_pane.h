@@ -52,6 +52,8 @@ public:
     std::string FileExtension() const;
 
     ChartView2D &Chart2D() const { return *chart2D; }
+    // The built graph the pane shows (its working copy), null for none or a file.
+    const GraphData *Shown() const { return shownGraph ? &*shownGraph : nullptr; }
     // The built 2-D graph the pane shows (its working copy), null for none or a file.
     GraphData *Shown2D() { return shownGraph && data2D ? &*shownGraph : nullptr; }
     // Draws the shown graph again from its definition, keeping data and labels.
@@ -67,6 +69,9 @@ public:
 
     // Turns a value into the text of a point label.
     std::function<QString(double)> formatValue;
+    // A click where no chart shows, or a double click on the chart outside its titles, opens
+    // Graph Setup at that point of the screen.
+    std::function<void(QPoint globalPosition)> openSetup;
     // Point labels on click (the Set Point Labels command).
     bool pointLabelsOn = true;
     // The least time between two pumps of the window messages during a build.

@@ -178,8 +178,8 @@ bool DocumentPanes::DeleteVariable(int index, bool update, bool ask) {
 bool DocumentPanes::DeleteFunction(int index, bool update, bool ask) {
     const char *found = parser.get_func_name(index);
     if (found == nullptr) return false;
-    // No graph uses a function until the graph windows exist.
-    if (const auto question = FunctionDeleteQuestion(found, false, ask)) {
+    const bool used = functionUsedInGraph && functionUsedInGraph(found);
+    if (const auto question = FunctionDeleteQuestion(found, used, ask)) {
         const int answer = workbench.Messages().Show(this, FromBytes(question->text),
                                                      kFunctionManagerTitle, kBoxQuestionYesNo);
         if (answer != kIdYes) return false;

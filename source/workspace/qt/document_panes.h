@@ -59,6 +59,12 @@ public:
     void DeleteAllVariables();
     void DeleteAllFunctions();
 
+    // Whether a graph of the document plots the function of that full name (its deletion
+    // asks more firmly then), and whether Graph Setup's Functions page shows (it takes the
+    // news of a function added or edited in place of the manager's message).
+    std::function<bool(const std::string &fullName)> functionUsedInGraph;
+    std::function<bool()> graphFunctionsShowing;
+
     // The modal managers; a name preselects its entry. The Function Manager's Insert goes to
     // `insertTarget` when there is one (a calculus page that opened it), else to the text.
     void OpenVariableManager(const std::string &name);

@@ -116,6 +116,12 @@ DocumentWindow::DocumentWindow(Workbench &owner, int documentNumber, QWidget *pa
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     panes = new DocumentPanes(workbench, *textPane, *parser, boxes, this);
+    panes->functionUsedInGraph = [this](const std::string &fullName) {
+        for (const GraphData *graph = content.graphs.gethead(); graph; graph = graph->next)
+            for (int i = 0; const Function *function = graph->GetFunction(i); ++i)
+                if (function->full_name == fullName) return true;
+        return false;
+    };
     layout->addWidget(panes);
     setFocusProxy(textPane);
     textPane->viewport()->installEventFilter(this);

@@ -311,9 +311,11 @@ void ManagerDialog::AddEdit() {
     PanesDocument document(kind, panes);
     const std::string name = ToBytes(nameBox->currentText());
     const std::string value = ToBytes(valueBox->text());
-    const AddEditOutcome outcome = kind == ManagerKind::Variables
-                                       ? VariableAddEdit(name, value, document)
-                                       : FunctionAddEdit(name, value, document, false);
+    const AddEditOutcome outcome =
+        kind == ManagerKind::Variables
+            ? VariableAddEdit(name, value, document)
+            : FunctionAddEdit(name, value, document,
+                              panes.graphFunctionsShowing && panes.graphFunctionsShowing());
     for (const ManagerNote &note : outcome.notes) Tell(note.id, note.text);
     switch (outcome.focus) {
         case AddEditOutcome::Focus::Name:
