@@ -39,6 +39,13 @@ public:
     virtual bool AddEditFunction(const std::string &name, const std::string &value) = 0;
     // The document's Variable Manager on `name`; true when it was opened.
     virtual bool EditVariable(const std::string &name) = 0;
+
+    // A text of the engine's own (an evaluation error, a point file that cannot be read) in a
+    // warning box with the engine's caption.
+    virtual void ShowText(std::string_view text, std::string_view caption) = 0;
+    // A row at the end of the Graphs page's "Graph Errors" list: evaluation errors of a data
+    // check, which never stop the check by themselves.
+    virtual void AddError(std::string_view text) = 0;
 };
 
 }  // namespace quindar
