@@ -17,6 +17,16 @@
 
 namespace quindar::testing {
 
+// Fills a set; null texts leave their slots empty.
+inline void FillSet(StrDataPnts &set, const std::vector<const char *> &xs,
+                    const std::vector<const char *> &ys, const char *z) {
+    for (std::size_t i = 0; i < xs.size(); ++i)
+        if (xs[i]) set.PutXDataPoint(xs[i], static_cast<int>(i));
+    for (std::size_t i = 0; i < ys.size(); ++i)
+        if (ys[i]) set.PutYDataPoint(ys[i], static_cast<int>(i));
+    if (z) set.PutZDataPoint(z);
+}
+
 class PointsFixture : public ::testing::Test {
 protected:
     PointsFixture() {
@@ -34,11 +44,7 @@ protected:
                         std::vector<const char *> ys, const char *z = nullptr) {
         StrDataPnts *set = Temp().DataSets.add();
         set->SetName(name);
-        for (std::size_t i = 0; i < xs.size(); ++i)
-            if (xs[i]) set->PutXDataPoint(xs[i], static_cast<int>(i));
-        for (std::size_t i = 0; i < ys.size(); ++i)
-            if (ys[i]) set->PutYDataPoint(ys[i], static_cast<int>(i));
-        if (z) set->PutZDataPoint(z);
+        FillSet(*set, xs, ys, z);
         if (Temp().CurDataSet == nullptr) Temp().CurDataSet = set;
         return *set;
     }

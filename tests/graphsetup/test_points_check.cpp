@@ -33,11 +33,7 @@ TEST_F(PointsCheck, CountsOfXYAndZMustAgree) {
     };
     for (const auto &c : cases) {
         StrDataPnts set;
-        for (std::size_t i = 0; i < c.xs.size(); ++i)
-            if (c.xs[i]) set.PutXDataPoint(c.xs[i], static_cast<int>(i));
-        for (std::size_t i = 0; i < c.ys.size(); ++i)
-            if (c.ys[i]) set.PutYDataPoint(c.ys[i], static_cast<int>(i));
-        if (c.z) set.PutZDataPoint(c.z);
+        FillSet(set, c.xs, c.ys, c.z);
         EXPECT_EQ(point_count_message(set), c.message)
             << c.xs.size() << " X, " << c.ys.size() << " Y, Z " << Text(c.z);
     }

@@ -417,22 +417,12 @@ void PointsPage::SaveFile() {
 }
 
 void PointsPage::NextPage() {
-    if (!points.LeavePage()) {
-        Refresh();
-        ApplyFocusRequest();
-        return;
-    }
-    points.Next();
+    if (KillActive()) points.Next();
     Refresh();
 }
 
 void PointsPage::PrevPage() {
-    if (!points.LeavePage()) {
-        Refresh();
-        ApplyFocusRequest();
-        return;
-    }
-    points.Prev();
+    if (KillActive()) points.Prev();
 }
 
 void PointsPage::Help() {
