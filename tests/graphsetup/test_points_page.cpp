@@ -297,15 +297,16 @@ TEST_F(PointsPage, RemoveAsksOnlyForASetWithContent) {
     AddSet("empty", {}, {});
     AddSet("zonly", {}, {}, "3");
     AddSet("full", {"1"}, {"2"});
+    AddSet("last", {"3"}, {"4"});
     page.SetActive();
     page.RemoveSet("empty");
-    EXPECT_EQ(page.SetNames(), (std::vector<std::string>{"zonly", "full"}));
+    EXPECT_EQ(page.SetNames(), (std::vector<std::string>{"zonly", "full", "last"}));
     ui.Expect(kMsgDeleteSet, kIdNo);
     page.RemoveSet("zonly");
     EXPECT_EQ(ui.LastText(),
               "Do you really want to delete data set \"zonly\", you will loose all of your data "
               "points?");
-    EXPECT_EQ(page.SetNames().size(), 2u);
+    EXPECT_EQ(page.SetNames().size(), 3u);
     ui.Expect(kMsgDeleteSet, kIdYes);
     page.RemoveSet("full");
     EXPECT_EQ(page.CurrentSet()->Name, "zonly");  // the previous set takes its place
@@ -450,6 +451,27 @@ TEST_F(PointsPage, AFileOfMixedZKeepsTheFirstAndSaysSo) {
               "Inconsistent Z data point values have been found in the new data, only a single Z "
               "data point value can be used, the first Z data value of 5 will be used.");
     EXPECT_EQ(Points(*page.CurrentSet()), "0,1;1,2;z=5");
+}
+
+TEST_F(PointsPage, ANewSetFromAFileOfMixedZIsForcedToItsFirstZ) {
+    AddSet("a", {"0", "1"}, {"1", "1"}, "1");
+    AddSet("b", {"0", "1"}, {"2", "2"}, "2");
+    page.SetActive();
+    ui.Expect(kMsgAddToCurrentSet, kIdNo).Expect(kMsgZForcedToFirst).Expect(kMsgInconsistentZ);
+    page.LoadFile(kData + "row_mixed_z.txt");
+    EXPECT_EQ(page.CurrentSet()->Name, "row_mixed_z.txt");
+    EXPECT_EQ(Points(*page.CurrentSet()), "0,1;1,2;z=5");
+    EXPECT_EQ(page.SetNames().size(), 3u);
+}
+
+TEST_F(PointsPage, NoPointFileBesideAFunctionSurface) {
+    SetAxes(true, true);
+    ui.Expect(kMsgPointsWith3DFunction);
+    EXPECT_FALSE(page.BeginLoadFile());
+    content.currentGraph = nullptr;
+    ui.Expect(kMsgNoGraphDefined);
+    EXPECT_FALSE(page.BeginLoadFile());
+    EXPECT_EQ(ui.selected, std::vector<int>{kPageGraphs});
 }
 
 TEST_F(PointsPage, ThreeDimensionalPointsReplaceACopiedCommonX) {
