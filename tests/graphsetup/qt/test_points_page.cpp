@@ -90,6 +90,9 @@ private slots:
     void aBadPointFileLoadsNothing();
     void aRefusedCellKeepsTheFocusWithoutALoop();
     void theSetNameDialogRefusesATakenName();
+    void setsAreAddedChosenAndRemovedFromTheList();
+    void nextLeadsToTypesOnceTheCheckPasses();
+    void everyControlHasAnAccessibleName();
     void screenshot();
 
 private:
@@ -318,6 +321,62 @@ void PointsPageTest::theSetNameDialogRefusesATakenName() {
     QCOMPARE(QString::fromStdString(session->temp.DataSets.gethead()->Name),
              QStringLiteral("Powers"));
     QCOMPARE(Child<QComboBox>("setName")->itemText(0), QStringLiteral("Powers"));
+}
+
+void PointsPageTest::setsAreAddedChosenAndRemovedFromTheList() {
+    Show();
+    auto *combo = Child<QComboBox>("setName");
+    QVERIFY(!Child<QPushButton>("removeSet")->isEnabled());
+    combo->setEditText(QStringLiteral("Heights"));
+    Click("addSet");
+    combo->setEditText(QString());
+    Click("addSet");
+    QCOMPARE(combo->count(), 2);
+    QCOMPARE(combo->currentText(), QStringLiteral("DataSet1"));
+    QVERIFY(Child<QPushButton>("prevSet")->isEnabled());
+    QVERIFY(!Child<QPushButton>("nextSet")->isEnabled());
+    Click("prevSet");
+    QCOMPARE(QString::fromStdString(session->temp.CurDataSet->Name), QStringLiteral("Heights"));
+    QCOMPARE(combo->currentText(), QStringLiteral("Heights"));
+    combo->setCurrentIndex(1);
+    emit combo->activated(1);
+    QCOMPARE(QString::fromStdString(session->temp.CurDataSet->Name), QStringLiteral("DataSet1"));
+    Click("removeSet");  // empty: no question
+    QCOMPARE(combo->count(), 1);
+    QCOMPARE(combo->currentText(), QStringLiteral("Heights"));
+    QVERIFY(ui.changed > 0);
+}
+
+void PointsPageTest::nextLeadsToTypesOnceTheCheckPasses() {
+    StrDataPnts &set = AddSet("Squares", 2);
+    set.PutYDataPoint(nullptr, 1);
+    Show();
+    ui.Expect(kMsgXYCountsDiffer);
+    Click("nextPage");
+    QCOMPARE(ui.selected, QList<int>{kPagePoints});
+    FocusAndWait(Cell({PointColumn::Y, 2}));
+    QTest::keyClicks(Cell({PointColumn::Y, 2}), QStringLiteral("4"));
+    Click("nextPage");
+    QCOMPARE(ui.selected.back(), int(kPageTypes));
+    Click("prevPage");
+    QCOMPARE(ui.selected.back(), int(kPageGraphs));
+}
+
+void PointsPageTest::everyControlHasAnAccessibleName() {
+    AddSet("Squares", 1);
+    Show();
+    const auto widgets = page->findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        if (widget->focusPolicy() == Qt::NoFocus || qobject_cast<QLabel *>(widget)) continue;
+        // The combo box's own edit and popup list speak for it.
+        bool inCombo = false;
+        for (QObject *up = widget->parent(); up; up = up->parent())
+            inCombo = inCombo || qobject_cast<QComboBox *>(up) != nullptr;
+        if (inCombo) continue;
+        QVERIFY2(!widget->accessibleName().isEmpty(),
+                 qPrintable(widget->metaObject()->className() + widget->objectName()));
+    }
+    QCOMPARE(Cell({PointColumn::Y, 2})->accessibleName(), QStringLiteral("Y of point 2"));
 }
 
 void PointsPageTest::screenshot() {
