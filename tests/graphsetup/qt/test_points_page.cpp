@@ -381,8 +381,9 @@ void PointsPageTest::everyControlHasAnAccessibleName() {
 
 void PointsPageTest::screenshot() {
     StrDataPnts &set = AddSet("Temperatures", 8);
-    set.PutXDataPoint("2*PI", 2);
-    AddSet("Pressures", 8);
+    set.PutYDataPoint("2*PI", 2);
+    set.PutZDataPoint("0.5");
+    AddSet("Pressures", 8).PutZDataPoint("1.5");
     Show();
     QTest::mouseClick(Child<QRadioButton>("row3"), Qt::LeftButton);
     QVERIFY(QDir().mkpath(QStringLiteral(QUINDAR_BUILD_DIR "screens")));
