@@ -2,6 +2,8 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 #include "points_check.h"
 
+#include <map>
+#include <optional>
 #include <string_view>
 
 #include "graph_layout.h"
@@ -62,6 +64,9 @@ private:
     Parser &parser;
     PointValues values;
     SetupUi &ui;
+    // Each set's Z as its own check evaluated it, so that a failing one is listed once, not
+    // once more for every other set.
+    std::map<const StrDataPnts *, std::optional<complex>> zValues;
 };
 
 bool PointsCheck::Run() {
@@ -85,7 +90,10 @@ bool PointsCheck::CheckSet(const StrDataPnts &set, bool surface) {
     const auto imaginary = [&](const char *text) {
         return Value(text, value) && value.imag != 0.0;
     };
-    if (imaginary(set.GetZDataPoint())) return Fail(kMsgImaginaryInSet, set.Name);
+    if (Value(set.GetZDataPoint(), value)) {
+        if (value.imag != 0.0) return Fail(kMsgImaginaryInSet, set.Name);
+        zValues[&set] = value;
+    }
     bool havePrevious = false;
     complex previous;
     for (int i = 0; i <= set.GetMaxXYZPoint(); ++i) {
@@ -112,9 +120,9 @@ bool PointsCheck::CheckSurface() {
             if (a == b) continue;
             if (a->GetZDataPoint() == nullptr) return Fail(kMsgIncompleteCoordinates, a->Name);
             if (b->GetZDataPoint() == nullptr) return Fail(kMsgIncompleteCoordinates, b->Name);
-            complex za, zb;
-            if (Value(a->GetZDataPoint(), za) && Value(b->GetZDataPoint(), zb) &&
-                za.real == zb.real && za.imag == zb.imag)
+            const std::optional<complex> &za = zValues[a];
+            const std::optional<complex> &zb = zValues[b];
+            if (za && zb && za->real == zb->real && za->imag == zb->imag)
                 return Fail(kMsgEqualZ, a->Name, b->Name);
         }
     }

@@ -138,6 +138,14 @@ TEST_F(PointsCheck, SurfaceRowsNeedTheirOwnZAndCommonX) {
     }
 }
 
+TEST_F(PointsCheck, AFailingZIsListedOnce) {
+    AddSet("a", {"1", "2"}, {"5", "6"}, "nosuchvariable");
+    AddSet("b", {"1", "2"}, {"5", "6"}, "2");
+    AddSet("c", {"1", "2"}, {"5", "6"}, "3");
+    EXPECT_TRUE(page.CheckData(Temp()));
+    EXPECT_EQ(ui.errors.size(), 1u);
+}
+
 TEST_F(PointsCheck, TheTextsOfTheSurfaceRules) {
     AddSet("a", {"1", "2"}, {"5", "6"}, "1");
     AddSet("b", {"1", "3"}, {"5", "6"}, "2");
