@@ -318,6 +318,8 @@ bool PointsPage::eventFilter(QObject *watched, QEvent *event) {
             break;
         case QEvent::KeyPress: {
             const auto *key = static_cast<QKeyEvent *>(event);
+            // Ctrl+Tab still leaves the grid, as everywhere else.
+            if (key->modifiers() & Qt::ControlModifier) break;
             for (const GridKeyRecord &record : kGridKeys) {
                 if (record.key != key->key()) continue;
                 busy = true;
