@@ -318,7 +318,7 @@ bool PointsPage::eventFilter(QObject *watched, QEvent *event) {
             break;
         case QEvent::KeyPress: {
             const auto *key = static_cast<QKeyEvent *>(event);
-            // Ctrl+Tab still leaves the grid, as everywhere else.
+            // Ctrl+Tab is the sheet's, which turns its pages with it.
             if (key->modifiers() & Qt::ControlModifier) break;
             for (const GridKeyRecord &record : kGridKeys) {
                 if (record.key != key->key()) continue;
