@@ -47,6 +47,12 @@ public:
     // Function Library. Only the Functions page opens them.
     virtual void OpenFunctionManager(const std::string & /*name*/) {}
     virtual void OpenFunctionLibrary() {}
+    // A text of the engine's own (an evaluation error, a point file that cannot be read) in a
+    // warning box with the engine's caption.
+    virtual void ShowText(std::string_view text, std::string_view caption) = 0;
+    // A row at the end of the Graphs page's "Graph Errors" list: evaluation errors of a data
+    // check, which never stop the check by themselves.
+    virtual void AddError(std::string_view text) = 0;
 };
 
 }  // namespace quindar
