@@ -27,9 +27,12 @@ constexpr int kTypeRows = 7;
 TypesPage::TypesPage(TypesPageModel &pageModel, QWidget *parent)
     : SetupPageWidget(pageModel, parent), model(pageModel) {
     setAccessibleName(QStringLiteral("Types"));
-    auto *page = new QHBoxLayout(this);
-    page->addWidget(Make2DGroup(), 3);
-    page->addWidget(Make3DGroup(), 2);
+    auto *groups = new QHBoxLayout;
+    groups->addWidget(Make2DGroup(), 3);
+    groups->addWidget(Make3DGroup(), 2);
+    auto *page = new QVBoxLayout(this);
+    page->addLayout(groups);
+    page->addStretch(1);
 }
 
 QWidget *TypesPage::Make2DGroup() {
@@ -45,7 +48,6 @@ QWidget *TypesPage::Make2DGroup() {
         grid->addWidget(radio, place % kTypeRows, place / kTypeRows);
         ++place;
     }
-    grid->setRowStretch(kTypeRows, 1);
     connect(types, &QButtonGroup::idClicked, this,
             [this](int stored) { model.Choose2DType(stored); });
     return group2D;
@@ -77,6 +79,7 @@ QWidget *TypesPage::Make3DGroup() {
     shape->addWidget(surface);
     column->addLayout(shape);
     column->addStretch(1);
+    shape->addStretch(1);
     attributes.push_back({bar, kBarOrSurfaceDigit, true});
     attributes.push_back({surface, kBarOrSurfaceDigit, false});
     for (const Attribute &attribute : attributes) {

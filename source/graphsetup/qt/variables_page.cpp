@@ -83,6 +83,13 @@ VariablesPage::VariablesPage(VariablesPageModel &pageModel, QWidget *parent)
     model.axesChanged = [this] { ShowTexts(); };
 }
 
+VariablesPage::~VariablesPage() {
+    // The model may outlive the page, and an edit that loses the focus as it goes is no edit.
+    model.axesChanged = nullptr;
+    for (QLineEdit *edit : edits)
+        if (edit != nullptr) disconnect(edit, nullptr, this, nullptr);
+}
+
 QWidget *VariablesPage::MakeAxisGroup(const QString &title, bool z) {
     auto *group = new QGroupBox(title);
     auto *form = new QFormLayout(group);

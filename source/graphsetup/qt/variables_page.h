@@ -21,6 +21,7 @@ class VariablesPage : public SetupPageWidget {
     Q_OBJECT
 public:
     VariablesPage(VariablesPageModel &pageModel, QWidget *parent);
+    ~VariablesPage() override;
 
     void UpdatePage() override;
     // An edit left with a text the page refuses keeps the page.
