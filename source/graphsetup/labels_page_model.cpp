@@ -2,8 +2,6 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 #include "labels_page_model.h"
 
-#include <cctype>
-
 #include "graph_data.h"
 #include "graph_pages_messages.h"
 #include "message_box_rules.h"
@@ -11,19 +9,11 @@
 #include "page_function_rows.h"
 #include "setup_session.h"
 #include "setup_ui.h"
+#include "text_helpers.h"
 
 namespace quindar {
 
 namespace {
-
-bool same_ignoring_case(const std::string &a, const std::string &b) {
-    if (a.size() != b.size()) return false;
-    for (std::size_t i = 0; i < a.size(); ++i)
-        if (std::tolower(static_cast<unsigned char>(a[i])) !=
-            std::tolower(static_cast<unsigned char>(b[i])))
-            return false;
-    return true;
-}
 
 // The text up to and including its first "]": a function row's full name.
 std::string full_name_of_row(const std::string &row) {
@@ -50,7 +40,7 @@ struct LabelOwner {
 
 LabelOwner find_label_owner(const GraphData &graph, const std::string &row) {
     for (StrDataPnts *set = graph.DataSets.gethead(); set != nullptr; set = set->next)
-        if (same_ignoring_case(set->Name, row)) return {set, nullptr};
+        if (text::equal_no_case(set->Name, row)) return {set, nullptr};
     const std::string fullName = full_name_of_row(row);
     for (int i = 0; Function *function = graph.GetFunction(i); ++i)
         if (function->full_name == fullName) return {nullptr, function};

@@ -12,23 +12,16 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
-#include <QVBoxLayout>
 #include <QtTest>
-#include <memory>
 
 #include "app_settings.h"
 #include "color_button.h"
 #include "colors_page.h"
-#include "desktop_harness.h"
-#include "document_window.h"
 #include "graph_pages_messages.h"
 #include "graph_types.h"
 #include "labels_page.h"
-#include "pages_ui_recorder.h"
-#include "parser.h"
+#include "page_fixture.h"
 #include "setup_page_model.h"
-#include "setup_page_widgets.h"
-#include "setup_session.h"
 #include "types_page.h"
 
 using namespace quindar;
@@ -36,45 +29,22 @@ using namespace quindar::testing;
 
 namespace {
 
-using Maker = MadeSetupPage (*)(SetupPageContext &, QWidget *);
-
-// A document with f(x) declared and a graph of it on X, and one page over its session in a
-// window of its own; `threeD` puts a Z variable on the graph as well.
-struct PageFixture {
-    PageFixture(Maker maker, bool threeD) {
-        DocumentWindow &document = *harness.Current();
-        document.Engine().eval_exp("f(x) = x^2", true, false);
-        DocumentContent &content = document.Content();
-        content.currentGraph = add_new_graph(content.graphs, "G", nullptr);
-        session = std::make_unique<GraphSetupSession>(document.Engine(), content);
-        GraphData &temp = session->temp;
-        temp.AddFunction("f[x]", "");
-        const Variable x("x", complex{0, 0}, complex{2, 0}, 5);
-        temp.SetXAxisVar(&x);
-        if (threeD) {
-            const Variable z("z", complex{0, 0}, complex{1, 0}, 5);
-            temp.SetZAxisVar(&z);
-        }
-        SetupPageContext context{harness.Bench(), document, *session, ui};
-        made = maker(context, &window);
-        ui.page = made.widget;
-        auto *layout = new QVBoxLayout(&window);
-        layout->addWidget(made.widget);
-        window.resize(720, 460);
-        window.show();
-        QApplication::setActiveWindow(&window);
-        made.widget->SetActive();
-        temp.NeedsData = false;
-        temp.NeedsAttributes = false;
-        QCoreApplication::processEvents();
+// A document with f(x) declared and a graph of it on X, and one page over its session;
+// `threeD` puts a Z variable on the graph as well. The marks start cleared.
+struct LooksFixture : PageFixture {
+    LooksFixture(PageMaker maker, bool threeD)
+        : PageFixture(maker, [threeD](Parser &parser, GraphData &temp) {
+              parser.eval_exp("f(x) = x^2", true, false);
+              temp.AddFunction("f[x]", "");
+              const Variable x("x", complex{0, 0}, complex{2, 0}, 5);
+              temp.SetXAxisVar(&x);
+              if (!threeD) return;
+              const Variable z("z", complex{0, 0}, complex{1, 0}, 5);
+              temp.SetZAxisVar(&z);
+          }) {
+        Temp().NeedsData = false;
+        Temp().NeedsAttributes = false;
     }
-    GraphData &Temp() { return session->temp; }
-
-    DesktopHarness harness;
-    PagesUiRecorder ui;
-    std::unique_ptr<GraphSetupSession> session;
-    MadeSetupPage made;
-    QWidget window;
 };
 
 int NamedControlsWithoutNames(QWidget *page) {
@@ -123,7 +93,7 @@ private slots:
 };
 
 void LabelsTypesColorsTest::labelsShowTheWorkingCopy() {
-    PageFixture f(make_labels_page, false);
+    LooksFixture f(make_labels_page, false);
     auto *page = qobject_cast<LabelsPage *>(f.made.widget);
     QVERIFY(page != nullptr);
     QCOMPARE(f.made.model->Index(), int{kPageLabels});
@@ -139,7 +109,7 @@ void LabelsTypesColorsTest::labelsShowTheWorkingCopy() {
 }
 
 void LabelsTypesColorsTest::typingAHeaderMarksOnlyTheLooks() {
-    PageFixture f(make_labels_page, false);
+    LooksFixture f(make_labels_page, false);
     auto *page = qobject_cast<LabelsPage *>(f.made.widget);
     page->HeaderEdit()->setFocus();
     QTest::keyClicks(page->HeaderEdit(), QStringLiteral("!"));
@@ -150,7 +120,7 @@ void LabelsTypesColorsTest::typingAHeaderMarksOnlyTheLooks() {
 }
 
 void LabelsTypesColorsTest::anAxisTitleClearedToTheLastCharacterComesBackWhole() {
-    PageFixture f(make_labels_page, false);
+    LooksFixture f(make_labels_page, false);
     auto *page = qobject_cast<LabelsPage *>(f.made.widget);
     QLineEdit *title = page->TitleEdit(kTitleY);
     title->setFocus();
@@ -169,7 +139,7 @@ void LabelsTypesColorsTest::anAxisTitleClearedToTheLastCharacterComesBackWhole()
 }
 
 void LabelsTypesColorsTest::aChosenRowShowsAndTakesItsLabel() {
-    PageFixture f(make_labels_page, false);
+    LooksFixture f(make_labels_page, false);
     auto *page = qobject_cast<LabelsPage *>(f.made.widget);
     f.Temp().GetFunction(0)->SetFuncLabel("parabola");
     page->Rows()->setCurrentRow(-1);
@@ -182,7 +152,7 @@ void LabelsTypesColorsTest::aChosenRowShowsAndTakesItsLabel() {
 }
 
 void LabelsTypesColorsTest::setDefaultTitlesRefillsTheEdits() {
-    PageFixture f(make_labels_page, false);
+    LooksFixture f(make_labels_page, false);
     auto *page = qobject_cast<LabelsPage *>(f.made.widget);
     page->TitleEdit(kTitleX)->setText(QStringLiteral("Time"));
     QCOMPARE(f.Temp().XAxisTitle, std::string("Time"));
@@ -193,7 +163,7 @@ void LabelsTypesColorsTest::setDefaultTitlesRefillsTheEdits() {
 }
 
 void LabelsTypesColorsTest::typesOfATwoDimensionalGraph() {
-    PageFixture f(make_types_page, false);
+    LooksFixture f(make_types_page, false);
     auto *page = qobject_cast<TypesPage *>(f.made.widget);
     QVERIFY(page != nullptr);
     QCOMPARE(NamedControlsWithoutNames(page), 0);
@@ -213,7 +183,7 @@ void LabelsTypesColorsTest::typesOfATwoDimensionalGraph() {
 }
 
 void LabelsTypesColorsTest::typesOfAThreeDimensionalGraph() {
-    PageFixture f(make_types_page, true);
+    LooksFixture f(make_types_page, true);
     auto *page = qobject_cast<TypesPage *>(f.made.widget);
     QVERIFY(!page->TwoDGroup()->isEnabled());
     QVERIFY(page->ThreeDGroup()->isEnabled());
@@ -240,7 +210,7 @@ void LabelsTypesColorsTest::typesOfAThreeDimensionalGraph() {
 
 void LabelsTypesColorsTest::colorsHideTheMeshAndSurfaceOfATwoDimensionalGraph() {
     for (const bool threeD : {false, true}) {
-        PageFixture f(make_colors_page, threeD);
+        LooksFixture f(make_colors_page, threeD);
         auto *page = qobject_cast<ColorsPage *>(f.made.widget);
         QVERIFY(page != nullptr);
         QCOMPARE(NamedControlsWithoutNames(page), 0);
@@ -256,7 +226,7 @@ void LabelsTypesColorsTest::colorsHideTheMeshAndSurfaceOfATwoDimensionalGraph() 
 }
 
 void LabelsTypesColorsTest::aColourChosenInTheDialogLandsAndTheCustomColoursAreKept() {
-    PageFixture f(make_colors_page, false);
+    LooksFixture f(make_colors_page, false);
     auto *page = qobject_cast<ColorsPage *>(f.made.widget);
     AnswerColorDialog(QColor(10, 20, 30), 2, QColor(200, 100, 50), true);
     page->Button(4)->click();
@@ -270,7 +240,7 @@ void LabelsTypesColorsTest::aColourChosenInTheDialogLandsAndTheCustomColoursAreK
 }
 
 void LabelsTypesColorsTest::aCancelledDialogChangesNoColour() {
-    PageFixture f(make_colors_page, false);
+    LooksFixture f(make_colors_page, false);
     auto *page = qobject_cast<ColorsPage *>(f.made.widget);
     AnswerColorDialog(QColor(10, 20, 30), 5, QColor(1, 2, 3), false);
     page->Button(0)->click();
@@ -281,7 +251,7 @@ void LabelsTypesColorsTest::aCancelledDialogChangesNoColour() {
 }
 
 void LabelsTypesColorsTest::setDefaultPaintsTheButtonsAgain() {
-    PageFixture f(make_colors_page, true);
+    LooksFixture f(make_colors_page, true);
     auto *page = qobject_cast<ColorsPage *>(f.made.widget);
     f.Temp().SurfaceTopColor = TColor(1, 1, 1);
     f.ui.Expect(kMsgLoadDefaultColors, kIdYes);
@@ -295,7 +265,7 @@ void LabelsTypesColorsTest::setDefaultPaintsTheButtonsAgain() {
 
 void LabelsTypesColorsTest::screenshots() {
     const struct {
-        Maker maker;
+        PageMaker maker;
         bool threeD;
         const char *file;
     } pages[] = {
@@ -306,7 +276,7 @@ void LabelsTypesColorsTest::screenshots() {
         {make_colors_page, true, "graph_setup_colors_3d.png"},
     };
     for (const auto &p : pages) {
-        PageFixture f(p.maker, p.threeD);
+        LooksFixture f(p.maker, p.threeD);
         QVERIFY(f.window.grab().save(QStringLiteral(QUINDAR_BUILD_DIR) + QLatin1String(p.file)));
     }
 }

@@ -7,17 +7,11 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
-#include <QVBoxLayout>
 #include <QtTest>
-#include <memory>
 
-#include "desktop_harness.h"
-#include "document_window.h"
 #include "graph_pages_messages.h"
-#include "pages_ui_recorder.h"
-#include "parser.h"
+#include "page_fixture.h"
 #include "setup_page_model.h"
-#include "setup_page_widgets.h"
 #include "setup_session.h"
 #include "variables_page.h"
 
@@ -26,35 +20,16 @@ using namespace quindar::testing;
 
 namespace {
 
-// A document with f(x, z) declared and a graph of it, and the Variables page over its session
-// in a window of its own.
-struct VariablesFixture {
-    VariablesFixture() {
-        DocumentWindow &document = *harness.Current();
-        document.Engine().eval_exp("f(x,z) = x*z", true, false);
-        DocumentContent &content = document.Content();
-        content.currentGraph = add_new_graph(content.graphs, "G", nullptr);
-        session = std::make_unique<GraphSetupSession>(document.Engine(), content);
-        session->temp.AddFunction("f[x,z]", "");
-        SetupPageContext context{harness.Bench(), document, *session, ui};
-        made = make_variables_page(context, &window);
+// A document with f(x, z) declared and a graph of it, and the Variables page over its session.
+struct VariablesFixture : PageFixture {
+    VariablesFixture()
+        : PageFixture(make_variables_page, [](Parser &parser, GraphData &temp) {
+              parser.eval_exp("f(x,z) = x*z", true, false);
+              temp.AddFunction("f[x,z]", "");
+          }) {
         page = qobject_cast<VariablesPage *>(made.widget);
-        ui.page = made.widget;
-        auto *layout = new QVBoxLayout(&window);
-        layout->addWidget(made.widget);
-        window.resize(720, 460);
-        window.show();
-        QApplication::setActiveWindow(&window);
-        made.widget->SetActive();
-        QCoreApplication::processEvents();
     }
 
-    DesktopHarness harness;
-    PagesUiRecorder ui;
-    std::unique_ptr<GraphSetupSession> session;
-    // The model outlives the window that holds its page.
-    MadeSetupPage made;
-    QWidget window;
     VariablesPage *page = nullptr;
 };
 
