@@ -64,8 +64,11 @@ TEST_F(LabelsPageTest, AnAxisTitleCantBeEmptied) {
         const char *title;
         bool userSet;
     } cases[] = {
-        {kTitleX, "Time", true, "Time", true}, {kTitleX, "", false, "Time", true},
-        {kTitleY, "", false, "f,sin", false},  {kTitleY, "Height", true, "Height", true},
+        {kTitleX, "Time", true, "Time", true},
+        {kTitleX, "Time", true, "Time", true},
+        {kTitleX, "", false, "Time", true},
+        {kTitleY, "", false, "f,sin", false},
+        {kTitleY, "Height", true, "Height", true},
         {kTitleZ, "Depth", true, "", false},  // a 2-D graph has no Z title
     };
     for (const auto &c : cases) {
