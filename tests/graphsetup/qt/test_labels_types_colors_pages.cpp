@@ -79,6 +79,7 @@ class LabelsTypesColorsTest : public QObject {
     Q_OBJECT
 private slots:
     void labelsShowTheWorkingCopy();
+    void aThreeDimensionalGraphHasAZTitle();
     void typingAHeaderMarksOnlyTheLooks();
     void anAxisTitleClearedToTheLastCharacterComesBackWhole();
     void aChosenRowShowsAndTakesItsLabel();
@@ -106,6 +107,18 @@ void LabelsTypesColorsTest::labelsShowTheWorkingCopy() {
     QCOMPARE(NamedControlsWithoutNames(page), 0);
     QVERIFY(f.Temp().LabelsVisited);
     QCOMPARE(f.ui.pageChanged, 0);
+}
+
+void LabelsTypesColorsTest::aThreeDimensionalGraphHasAZTitle() {
+    LooksFixture f(make_labels_page, true);
+    auto *page = qobject_cast<LabelsPage *>(f.made.widget);
+    QLineEdit *title = page->TitleEdit(kTitleZ);
+    QVERIFY(title->isEnabled());
+    QCOMPARE(title->text(), QStringLiteral("z"));
+    title->setFocus();
+    QTest::keyClicks(title, QStringLiteral("2"));
+    QCOMPARE(f.Temp().ZAxisTitle, std::string("z2"));
+    QVERIFY(f.Temp().ZTitleSet);
 }
 
 void LabelsTypesColorsTest::typingAHeaderMarksOnlyTheLooks() {
@@ -166,6 +179,7 @@ void LabelsTypesColorsTest::typesOfATwoDimensionalGraph() {
     LooksFixture f(make_types_page, false);
     auto *page = qobject_cast<TypesPage *>(f.made.widget);
     QVERIFY(page != nullptr);
+    QCOMPARE(f.made.model->Index(), int{kPageTypes});
     QCOMPARE(NamedControlsWithoutNames(page), 0);
     QVERIFY(page->TwoDGroup()->isEnabled());
     QVERIFY(!page->ThreeDGroup()->isEnabled());
@@ -213,6 +227,7 @@ void LabelsTypesColorsTest::colorsHideTheMeshAndSurfaceOfATwoDimensionalGraph() 
         LooksFixture f(make_colors_page, threeD);
         auto *page = qobject_cast<ColorsPage *>(f.made.widget);
         QVERIFY(page != nullptr);
+        QCOMPARE(f.made.model->Index(), int{kPageColors});
         QCOMPARE(NamedControlsWithoutNames(page), 0);
         const auto table = color_buttons();
         for (std::size_t i = 0; i < table.size(); ++i) {
