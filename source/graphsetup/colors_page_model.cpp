@@ -83,10 +83,4 @@ void ColorsPageModel::ApplyChanges() {
     page_applied(session, ui, Index(), *current);
 }
 
-void ColorsPageModel::Finish() {
-    if (!buildGraph || !buildGraph()) return;
-    if (applySheet) applySheet();
-    if (closeSheet) closeSheet();
-}
-
 }  // namespace quindar

@@ -3,7 +3,7 @@
 #pragma once
 
 // The Colors page: the sixteen colours of a graph, the user's default colours in the settings
-// file, and Finish, the end of the walk through the pages.
+// file.
 
 #include <functional>
 #include <span>
@@ -49,15 +49,9 @@ public:
     bool SetDefault();
 
     void ApplyChanges() override;
-    // Next reads "Finish" here.
-    void Next() override { Finish(); }
-    // The graph is built; when that goes on, the sheet applies and closes.
-    void Finish();
-
-    // What Finish asks of the Graphs page and of the sheet, which set them.
-    std::function<bool()> buildGraph;
-    std::function<bool()> applySheet;
-    std::function<void()> closeSheet;
+    // Next reads "Finish" here; the sheet builds, applies and closes, so the page has no
+    // step of its own.
+    void Next() override {}
 
 private:
     std::string settingsPath;

@@ -12,7 +12,7 @@ GraphData *apply_target(GraphSetupSession &session, bool visited) {
 }
 
 void page_applied(GraphSetupSession &session, SetupUi &ui, int pageIndex, GraphData &current) {
-    session.graphsChanged = true;
+    session.GraphsChanged();
     ui.PageUnchanged(pageIndex);
     current.Modified = false;
 }

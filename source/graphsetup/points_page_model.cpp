@@ -98,7 +98,7 @@ void PointsPageModel::DataChanged() {
         ui.PageChanged();
         return;
     }
-    session.graphsChanged = true;
+    session.GraphsChanged();
     session.Mark(ui, true);
 }
 

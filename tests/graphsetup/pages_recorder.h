@@ -70,6 +70,12 @@ public:
         return answer;
     }
     void Sound(std::string_view file) override { sounds.emplace_back(file); }
+    void ShowText(std::string_view text, std::string_view) override {
+        ADD_FAILURE() << "unexpected engine message " << text;
+    }
+    void AddError(std::string_view text) override {
+        ADD_FAILURE() << "unexpected graph error " << text;
+    }
     void SelectPage(int index) override {
         selected.push_back(index);
         showing = index;

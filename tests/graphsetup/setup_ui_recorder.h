@@ -49,6 +49,10 @@ public:
         return next.answer;
     }
     void Sound(std::string_view file) override { sounds.emplace_back(file); }
+    void ShowText(std::string_view text, std::string_view) override {
+        ADD_FAILURE() << "unexpected engine message " << text;
+    }
+    void AddError(std::string_view text) override { addedErrors.emplace_back(text); }
     void SelectPage(int index) override {
         selected.push_back(index);
         showing = index;
@@ -81,6 +85,7 @@ public:
 
     int showing = 0;
     std::vector<RecordedMessage> messages;
+    std::vector<std::string> addedErrors;
     std::vector<std::string> sounds;
     std::vector<int> selected;
     std::vector<std::pair<int, int>> focused;

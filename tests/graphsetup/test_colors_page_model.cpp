@@ -151,23 +151,7 @@ TEST_F(ColorsPageTest, ApplyCopiesTheSixteenColoursOnlyAfterAVisit) {
     EXPECT_FALSE(Current().Modified);
 }
 
-TEST_F(ColorsPageTest, FinishBuildsThenAppliesAndClosesUnlessTheBuildStops) {
-    std::vector<std::string> steps;
-    bool builds = false;
-    page.buildGraph = [&] {
-        steps.push_back("build");
-        return builds;
-    };
-    page.applySheet = [&] {
-        steps.push_back("apply");
-        return true;
-    };
-    page.closeSheet = [&] { steps.push_back("close"); };
-    page.Next();
-    EXPECT_EQ(steps, (std::vector<std::string>{"build"}));
-    builds = true;
-    page.Next();
-    EXPECT_EQ(steps, (std::vector<std::string>{"build", "build", "apply", "close"}));
+TEST_F(ColorsPageTest, PrevGoesBackToTypes) {
     page.Prev();
     EXPECT_EQ(ui.selected, (std::vector<int>{kPageTypes}));
 }

@@ -53,6 +53,9 @@ public:
             return before && before(id, state);
         };
         owner.Panes().graphFunctionsShowing = [this] { return functions_page_showing(document); };
+        owner.Panes().addGraphFunction = [this](const std::string &text) {
+            return add_graph_function(document, text);
+        };
         // The solver made later for this document hands "Insert F[x]" to the Functions page.
         owner.installEventFilter(this);
     }

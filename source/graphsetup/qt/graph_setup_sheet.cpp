@@ -15,6 +15,7 @@
 #include <QTabWidget>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <charconv>
 #include <utility>
 #include <vector>
 
@@ -190,7 +191,7 @@ void GraphSetupSheet::LeftButton() {
     if (index == kPageGraphs)
         GraphsModel().GraphDataPoints();
     else
-        models[static_cast<std::size_t>(index)]->Prev();
+        widgets[static_cast<std::size_t>(index)]->Prev();
 }
 
 void GraphSetupSheet::RightButton() {
@@ -200,7 +201,7 @@ void GraphSetupSheet::RightButton() {
     else if (index == kPageColors)
         Finish();
     else
-        models[static_cast<std::size_t>(index)]->Next();
+        widgets[static_cast<std::size_t>(index)]->Next();
 }
 
 void GraphSetupSheet::Finish() {
@@ -286,11 +287,30 @@ int GraphSetupSheet::Message(int textId, std::initializer_list<std::string_view>
                              unsigned flags) {
     const std::string text = SetupText(textId);
     const std::vector<std::string_view> arguments(fields);
-    const std::optional<std::string> filled = format_message(text, arguments);
+    // A count goes into a "%d" of its text; names and values into "%s".
+    std::optional<std::string> filled;
+    int count = 0;
+    if (text.find("%d") != std::string::npos && arguments.size() == 1 &&
+        std::from_chars(arguments[0].data(), arguments[0].data() + arguments[0].size(), count).ec ==
+            std::errc())
+        filled = format_message(text, count);
+    else
+        filled = format_message(text, arguments);
     if (!filled) return kBoxNotShown;
     return workbench.Messages().ShowPlain(
         this, QString::fromStdString(*filled),
         QString::fromStdString(SetupText(kGraphingUtilityTitleId)), flags);
+}
+
+void GraphSetupSheet::ShowText(std::string_view text, std::string_view caption) {
+    workbench.Messages().ShowPlain(this, QString::fromUtf8(text.data(), qsizetype(text.size())),
+                                   QString::fromUtf8(caption.data(), qsizetype(caption.size())),
+                                   kBoxWarning);
+}
+
+void GraphSetupSheet::AddError(std::string_view text) {
+    GraphsModel().AddError(std::string(text).c_str());
+    widgets[kPageGraphs]->UpdatePage();
 }
 
 void GraphSetupSheet::Sound(std::string_view file) {

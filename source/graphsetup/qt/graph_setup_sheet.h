@@ -75,6 +75,8 @@ public:
     void EnableGraphSetup(bool enable) override;
     void OpenFunctionManager(const std::string &name) override;
     void OpenFunctionLibrary() override;
+    void ShowText(std::string_view text, std::string_view caption) override;
+    void AddError(std::string_view text) override;
 
     void done(int result) override;
 

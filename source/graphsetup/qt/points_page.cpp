@@ -173,13 +173,6 @@ void PointsPage::BuildButtons() {
     files->addWidget(save);
     files->addStretch(1);
     static_cast<QVBoxLayout *>(layout())->addLayout(files);
-
-    auto *walk = new QHBoxLayout;
-    walk->addStretch(1);
-    walk->addWidget(AddButton(tr("< &Prev"), "prevPage", &PointsPage::PrevPage));
-    walk->addWidget(AddButton(tr("&Help"), "help", &PointsPage::Help));
-    walk->addWidget(AddButton(tr("&Next >"), "nextPage", &PointsPage::NextPage));
-    static_cast<QVBoxLayout *>(layout())->addLayout(walk);
 }
 
 QLineEdit *PointsPage::CellEdit(PointCell cell) const {
@@ -418,17 +411,14 @@ void PointsPage::SaveFile() {
     points.SaveFile(path.toStdString());
 }
 
-void PointsPage::NextPage() {
+// A refused cell keeps the page before its check runs.
+void PointsPage::Next() {
     if (KillActive()) points.Next();
     Refresh();
 }
 
-void PointsPage::PrevPage() {
+void PointsPage::Prev() {
     if (KillActive()) points.Prev();
-}
-
-void PointsPage::Help() {
-    context.workbench.CallContextHelp(kSetupPages[kPagePoints].helpId);
 }
 
 MadeSetupPage make_points_page(SetupPageContext &context, QWidget *parent) {

@@ -32,6 +32,8 @@ public:
 
     void UpdatePage() override;
     bool KillActive() override;
+    void Next() override;
+    void Prev() override;
 
     QLineEdit *CellEdit(PointCell cell) const;
 
@@ -64,9 +66,6 @@ private:
     void LoadFile();
     void SaveFile();
     void ScrollTo(int top);
-    void NextPage();
-    void PrevPage();
-    void Help();
 
     PointsPageModel &points;
     // A copy: the context the sheet made the page with need not outlive it.

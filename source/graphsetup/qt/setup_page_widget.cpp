@@ -6,6 +6,14 @@
 
 namespace quindar {
 
+void SetupPageWidget::Next() {
+    model.Next();
+}
+
+void SetupPageWidget::Prev() {
+    model.Prev();
+}
+
 void SetupPageWidget::SetActive() {
     model.SetActive();
     UpdatePage();

@@ -23,6 +23,9 @@ public:
     virtual void SetActive();
     // Whether the page may be left; a refusal has shown its message and kept the focus.
     virtual bool KillActive() { return true; }
+    // The sheet's Next and Prev buttons on this page.
+    virtual void Next();
+    virtual void Prev();
     // Enables or disables the controls while a build runs.
     virtual void EnablePage(bool enable) { setEnabled(enable); }
 

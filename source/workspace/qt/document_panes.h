@@ -64,6 +64,8 @@ public:
     // news of a function added or edited in place of the manager's message).
     std::function<bool(const std::string &fullName)> functionUsedInGraph;
     std::function<bool()> graphFunctionsShowing;
+    // Adds a declared function (its "name = value" text) to that page; true when taken.
+    std::function<bool(const std::string &nameValue)> addGraphFunction;
 
     // The modal managers; a name preselects its entry. The Function Manager's Insert goes to
     // `insertTarget` when there is one (a calculus page that opened it), else to the text.

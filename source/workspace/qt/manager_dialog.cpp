@@ -378,6 +378,15 @@ void ManagerDialog::Insert() {
         insertTarget(name);
         return;
     }
+    // Graph Setup's Functions page, while it shows, takes a declared function whole.
+    Parser &parser = panes.Engine();
+    const int declared = kind == ManagerKind::Functions ? parser.find_function(name.c_str()) : -1;
+    if (declared >= 0 && panes.graphFunctionsShowing && panes.graphFunctionsShowing() &&
+        panes.addGraphFunction) {
+        const char *text = parser.get_func_name_value(declared);
+        if (text != nullptr && panes.addGraphFunction(text)) panes.Bench().PlaySound("Add.wav");
+        return;
+    }
     panes.InsertIntoText(name);
     panes.Bench().PlaySound("Add.wav");
 }

@@ -45,6 +45,12 @@ public:
         return answer;
     }
     void Sound(std::string_view) override {}
+    void ShowText(std::string_view text, std::string_view) override {
+        unexpected << QString::fromUtf8(text.data(), qsizetype(text.size()));
+    }
+    void AddError(std::string_view text) override {
+        unexpected << QString::fromUtf8(text.data(), qsizetype(text.size()));
+    }
     void SelectPage(int index) override { selected.push_back(index); }
     int ShowingPage() const override { return selected.empty() ? -1 : selected.back(); }
     void FocusControl(int, int controlId) override {

@@ -352,13 +352,13 @@ void PointsPageTest::nextLeadsToTypesOnceTheCheckPasses() {
     set.PutYDataPoint(nullptr, 1);
     Show();
     ui.Expect(kMsgXYCountsDiffer);
-    Click("nextPage");
+    page->Next();
     QCOMPARE(ui.selected, QList<int>{kPagePoints});
     FocusAndWait(Cell({PointColumn::Y, 2}));
     QTest::keyClicks(Cell({PointColumn::Y, 2}), QStringLiteral("4"));
-    Click("nextPage");
+    page->Next();
     QCOMPARE(ui.selected.back(), int(kPageTypes));
-    Click("prevPage");
+    page->Prev();
     QCOMPARE(ui.selected.back(), int(kPageGraphs));
 }
 
