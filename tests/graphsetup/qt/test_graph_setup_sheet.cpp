@@ -33,6 +33,8 @@
 #include "graphs_page.h"
 #include "graphs_page_model.h"
 #include "main_frame.h"
+#include "manager_dialog.h"
+#include "math_editor_widget.h"
 #include "message_box_rules.h"
 #include "parser.h"
 #include "setup_page_model.h"
@@ -139,6 +141,7 @@ private slots:
     void theGraphPaneOpensTheSheetAndTheButtonShowsIt();
     void oneSheetInTheWholeProgram();
     void theSolversInsertGoesToTheFunctionsPage();
+    void theFunctionManagersInsertGoesToTheFunctionsPage();
     void draggingARowBackTakesItOffTheGraph();
     void aFunctionDeletedInTheManagerLeavesTheGraph();
     void deletingAFunctionAGraphPlotsAsksFirst();
@@ -434,6 +437,23 @@ void GraphSetupSheetTest::theSolversInsertGoesToTheFunctionsPage() {
     QTest::mouseClick(solver->InsertFunctionButton(), Qt::LeftButton);
     QCOMPARE(Rows(FunctionsOf(*sheet).ToGraphList()), (QStringList{"f[x] = x^2", "SIN[x]"}));
     solver->close();
+}
+
+// The Function Manager's Insert hands a declared function whole to the Functions page that
+// shows, and leaves the text alone.
+void GraphSetupSheetTest::theFunctionManagersInsertGoesToTheFunctionsPage() {
+    SetupDesk desk(true);
+    DesktopHarness &harness = desk.harness;
+    DocumentWindow &document = desk.document;
+    Declare(document, "g[x]=2*x");
+    const QString text = document.TextPane().toPlainText();
+    GraphSetupSheet *sheet = open_graph_setup(harness.Bench(), document);
+    QVERIFY(sheet->RequestPage(kPageFunctions));
+    ManagerDialog manager(ManagerKind::Functions, document.Panes(), "g");
+    manager.NameBox().setEditText(QStringLiteral("g"));
+    manager.Insert();
+    QCOMPARE(Rows(FunctionsOf(*sheet).ToGraphList()), (QStringList{"f[x] = x^2", "g[x] = 2*x"}));
+    QCOMPARE(document.TextPane().toPlainText(), text);
 }
 
 void GraphSetupSheetTest::draggingARowBackTakesItOffTheGraph() {
