@@ -473,4 +473,20 @@ bool GraphBuilder::GetPntDataSetValueY(int set, int point, complex &value) {
     return text != nullptr && ComputeValue(text, value);
 }
 
+bool GraphBuilder::LabelValues3D(const ChartGrid3D &grid, int ix, int iz, complex &x, complex &y,
+                                 complex &z) {
+    if (NumFunctions == 0 && NumDataSets == 0) return false;
+    if (NumFunctions > 0 && XAxisVarWork && ZAxisVarWork) {
+        x = {XAxisVarWork->low_limit.real + ix * XAxisVarWork->increment.real, 0};
+        z = {ZAxisVarWork->low_limit.real + iz * ZAxisVarWork->increment.real, 0};
+        y = GetEqnDataSetValueY(x, z);
+        return true;
+    }
+    x = {grid.x_at(ix), 0};
+    z = {grid.z_at(iz), 0};
+    y = {};
+    GetPntDataSetValueY(iz, ix, y);
+    return true;
+}
+
 }  // namespace quindar

@@ -19,6 +19,7 @@
 #include "chart_input_handler.h"
 #include "chart_looks.h"
 #include "surface_levels.h"
+#include "surface_projection.h"
 
 namespace quindar {
 namespace {
@@ -28,6 +29,18 @@ constexpr int kBackground = 0x0200, kForeground = 0x0204, kDataAreaBackground = 
               kFooterBackground = 0x0202, kFooterForeground = 0x0203, kGraphBackground = 0x0205,
               kGraphForeground = 0x0206, kHeaderBackground = 0x0207, kHeaderForeground = 0x0208,
               kMeshTop = 0x020C, kSurfaceBottom = 0x020D, kSurfaceTop = 0x020E;
+
+// The size of a projection picture: finer than any grid the Graph Setup allows to be drawn.
+constexpr int kProjectionSize = 512;
+
+QImage projection_image(const ProjectionRaster &raster) {
+    QImage image(raster.width, raster.height, QImage::Format_ARGB32);
+    for (int y = 0; y < raster.height; ++y) {
+        auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
+        for (int x = 0; x < raster.width; ++x) line[x] = raster.at(x, y);
+    }
+    return image;
+}
 
 }  // namespace
 
@@ -78,6 +91,8 @@ bool ChartView3D::makeGraph(bool bars) {
         container_ = nullptr;
         surface_ = nullptr;
         bars_ = nullptr;
+        surfaceSeries = nullptr;
+        projections.clear();
     }
     graphBars = bars;
     QAbstract3DGraph *made = nullptr;
@@ -135,11 +150,14 @@ void ChartView3D::fillSurface() {
         surface_->removeSeries(old);
         delete old;
     }
+    surfaceSeries = nullptr;
+    projections.clear();
     if (!grid_) return;
     const ChartGrid3D &grid = *grid_;
     auto *array = new QSurfaceDataArray;
     array->reserve(grid.nz());
-    float low = std::numeric_limits<float>::max(), high = std::numeric_limits<float>::lowest();
+    low = std::numeric_limits<float>::max();
+    high = std::numeric_limits<float>::lowest();
     for (int iz = 0; iz < grid.nz(); ++iz) {
         auto *row = new QSurfaceDataRow(grid.nx());
         for (int ix = 0; ix < grid.nx(); ++ix) {
@@ -166,8 +184,11 @@ void ChartView3D::fillSurface() {
     });
     series->setItemLabelFormat(QStringLiteral("(@xLabel , @yLabel , @zLabel)"));
     surface_->addSeries(series);
+    surfaceSeries = series;
     // Gradient stops spread over the axis range: it is the data's own.
-    if (low <= high) surface_->axisY()->setRange(low, high > low ? high : low + 1);
+    if (low > high) low = 0, high = 1;
+    if (high <= low) high = low + 1;
+    surface_->axisY()->setRange(low, high);
 }
 
 void ChartView3D::fillBars() {
@@ -238,6 +259,7 @@ void ChartView3D::applyLooks() {
         if (surfaceDrawn) flags |= QSurface3DSeries::DrawSurface;
         if (meshDrawn) flags |= QSurface3DSeries::DrawWireframe;
         for (QSurface3DSeries *series : surface_->seriesList()) {
+            if (series != surfaceSeries) continue;
             series->setDrawMode(flags);
             series->setWireframeColor(mesh);
             series->setFlatShadingEnabled(!spec_.shade);
@@ -249,6 +271,7 @@ void ChartView3D::applyLooks() {
                 series->setColorStyle(Q3DTheme::ColorStyleRangeGradient);
             }
         }
+        projectSurface(look);
     }
     if (bars_ != nullptr) {
         for (QBar3DSeries *series : bars_->seriesList()) {
@@ -264,6 +287,40 @@ void ChartView3D::applyLooks() {
     camera->setYRotation(view.yRotation);
     camera->setZoomLevel(view.zoom);
     camera->setTarget(QVector3D(view.targetX, view.targetY, 0.0f));
+}
+
+void ChartView3D::projectSurface(const SurfaceLook &look) {
+    for (QSurface3DSeries *old : projections) {
+        surface_->removeSeries(old);
+        delete old;
+    }
+    projections.clear();
+    const ProjectionPlanes planes = projection_planes(spec_);
+    // The chart draws no see-through plane: a ceiling would hide the surface and take its
+    // clicks, so the projection lies on the floor alone.
+    if ((!planes.floor && !planes.ceiling) || !grid_ || surfaceSeries == nullptr ||
+        grid_->nx() < 2 || grid_->nz() < 2)
+        return;
+    const ChartGrid3D &grid = *grid_;
+    // A flat sheet of two by two points over the grid's extent carries the picture.
+    auto *array = new QSurfaceDataArray;
+    for (const int iz : {0, grid.nz() - 1}) {
+        auto *row = new QSurfaceDataRow(2);
+        (*row)[0].setPosition(QVector3D(float(grid.x_at(0)), low, float(grid.z_at(iz))));
+        (*row)[1].setPosition(
+            QVector3D(float(grid.x_at(grid.nx() - 1)), low, float(grid.z_at(iz))));
+        *array << row;
+    }
+    auto *plane = new QSurface3DSeries;
+    plane->dataProxy()->resetArray(array);
+    plane->setDrawMode(QSurface3DSeries::DrawSurface);
+    plane->setFlatShadingEnabled(true);
+    // The picture's first row is the lowest Z; the sheet's texture runs the other way.
+    plane->setTexture(projection_image(projection_raster(grid, look, low, high, kProjectionSize,
+                                                         kProjectionSize, false))
+                          .mirrored(false, true));
+    surface_->addSeries(plane);
+    projections.push_back(plane);
 }
 
 CameraView ChartView3D::camera() const {

@@ -10,11 +10,13 @@
 #include <map>
 #include <optional>
 #include <utility>
+#include <vector>
 
 #include "chart_camera.h"
 #include "chart_data.h"
 #include "chart_decisions.h"
 #include "chart_view.h"
+#include "surface_levels.h"
 
 class Q3DSurface;
 class Q3DBars;
@@ -22,6 +24,7 @@ class QAbstract3DGraph;
 class QCustom3DLabel;
 class QLabel;
 class QStackedWidget;
+class QSurface3DSeries;
 
 namespace quindar {
 
@@ -41,6 +44,8 @@ public:
     QAbstract3DGraph *graph() const;
     // Where the user has turned the view (the decisions' view while nothing can draw).
     CameraView camera() const;
+    // The projection planes shown (floor first), for tests.
+    const std::vector<QSurface3DSeries *> &projectionSeries() const { return projections; }
 
     QWidget *widget() override { return this; }
     bool canDraw() const override { return glUsable; }
@@ -68,6 +73,8 @@ private:
     void fillSurface();
     void fillBars();
     void applyLooks();
+    // The floor and ceiling pictures of the surface, made again for the current looks.
+    void projectSurface(const SurfaceLook &look);
 
     ChartSpec3D spec_;
     std::optional<ChartGrid3D> grid_;
@@ -80,6 +87,10 @@ private:
     QWidget *container_ = nullptr;
     bool glUsable = false;
     bool graphBars = false;
+    QSurface3DSeries *surfaceSeries = nullptr;
+    std::vector<QSurface3DSeries *> projections;
+    // The vertical range of the surface's values.
+    float low = 0, high = 1;
     std::map<std::pair<int, int>, QCustom3DLabel *> labels_;
 };
 

@@ -21,6 +21,7 @@
 #include "graph_messages.h"
 #include "graph_pane.h"
 #include "graph_view_commands.h"
+#include "graph_view_commands_3d.h"
 #include "ini_graph_settings.h"
 #include "math_editor_widget.h"
 #include "message_box_rules.h"
@@ -109,6 +110,9 @@ public:
                 state.enabled = GraphShowing() && pane->CurrentView() != nullptr &&
                                 pane->CurrentView()->labelCount() > 0;
                 return true;
+            case command::kSet2DPerspective:
+                state.enabled = GraphShowing() && pane->CurrentView() != nullptr;
+                return true;
             case command::kLogarithmicX:
             case command::kLogarithmicY:
             case command::kGridLines:
@@ -118,7 +122,12 @@ public:
             case command::kSaveAsDefaultMargins:
             case command::kSetDefaultOrientation:
             case command::kSaveAsDefaultOrientation: {
-                const GraphData *graph = GraphShowing() ? pane->Shown2D() : nullptr;
+                const bool logAxis = id == command::kLogarithmicX || id == command::kLogarithmicY;
+                // The logarithmic axes belong to 2-D graphs; the rest serve 3-D ones too.
+                const GraphData *graph = !GraphShowing()   ? nullptr
+                                         : pane->Shown2D() ? pane->Shown2D()
+                                         : logAxis         ? nullptr
+                                                           : pane->Shown3D();
                 state.enabled = graph != nullptr && !pane->Building();
                 if (graph != nullptr && id == command::kLogarithmicX)
                     state.checked = graph->XAxisLogarithmic != 0;
@@ -136,52 +145,93 @@ public:
     // A view command on the shown graph: the working copy changes, the document's graph of
     // the same name takes the change, and the chart is drawn again.
     void ChangeView(int id) {
-        GraphData *graph = pane->Shown2D();
-        if (graph == nullptr || pane->Building()) return;
+        if (pane->Building()) return;
         int saved = 0;
+        if (GraphData *graph = pane->Shown2D()) {
+            saved = ChangeView2D(id, *graph);
+            if (saved < 0) return;
+        } else if (GraphData *graph3D = pane->Shown3D()) {
+            pane->SaveOrientation();
+            saved = ChangeView3D(id, *graph3D);
+            if (saved < 0) return;
+        } else {
+            return;
+        }
+        const GraphData &graph = *(pane->Shown2D() ? pane->Shown2D() : pane->Shown3D());
+        for (GraphData *stored = document.Content().graphs.gethead(); stored != nullptr;
+             stored = stored->next)
+            if (stored->Name == graph.Name) {
+                copy_view_fields(graph, *stored);
+                copy_view_fields_3d(graph, *stored);
+            }
+        document.MarkGraphsChanged();
+        pane->Redraw(document.Engine().angle_mode);
+        if (saved != 0) Tell(graph_message(saved), kBoxInformation);
+    }
+
+    void Tell(std::string_view text, int kind) {
+        workbench.Messages().Show(
+            pane, QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())),
+            kMsgGraphWindow, kind);
+    }
+
+    // The message to show after a 2-D view command, 0 for none, -1 when it was refused.
+    int ChangeView2D(int id, GraphData &graph) {
         switch (id) {
             case command::kLogarithmicX:
             case command::kLogarithmicY:
-                if (const int refusal = toggle_log_axis(*graph, id == command::kLogarithmicX)) {
-                    const std::string_view text = graph_message(refusal);
-                    workbench.Messages().Show(
-                        pane, QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())),
-                        kMsgGraphWindow, kBoxWarning);
-                    return;
+                if (const int refusal = toggle_log_axis(graph, id == command::kLogarithmicX)) {
+                    Tell(graph_message(refusal), kBoxWarning);
+                    return -1;
                 }
-                break;
+                return 0;
             case command::kGridLines:
-                toggle_grid_lines(*graph);
-                break;
+                toggle_grid_lines(graph);
+                return 0;
             case command::kSetDefaultMargins:
-                set_default_margins(*graph);
-                break;
+                set_default_margins(graph);
+                return 0;
             case command::kSetDefaultOrientation:
-                set_default_orientation(*graph);
-                break;
+                set_default_orientation(graph);
+                return 0;
             case command::kSaveAsDefaultMargins:
-                save_default_margins(*graph, pane->Chart2D().spec());
-                saved = kMsgMarginsSaved;
-                break;
+                save_default_margins(graph, pane->Chart2D().spec());
+                return kMsgMarginsSaved;
             case command::kSaveAsDefaultOrientation:
-                save_default_orientation(*graph, pane->Chart2D().spec());
-                saved = kMsgOrientationSaved;
-                break;
+                save_default_orientation(graph, pane->Chart2D().spec());
+                return kMsgOrientationSaved;
             default:
-                step_margins(*graph, pane->Chart2D().spec(),
+                step_margins(graph, pane->Chart2D().spec(),
                              id == command::kIncreaseMargins ? kMarginStep : -kMarginStep);
-                break;
+                return 0;
         }
-        for (GraphData *stored = document.Content().graphs.gethead(); stored != nullptr;
-             stored = stored->next)
-            if (stored->Name == graph->Name) copy_view_fields(*graph, *stored);
-        document.MarkGraphsChanged();
-        pane->Redraw(document.Engine().angle_mode);
-        if (saved != 0) {
-            const std::string_view text = graph_message(saved);
-            workbench.Messages().Show(
-                pane, QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())),
-                kMsgGraphWindow, kBoxInformation);
+    }
+
+    // The same for a 3-D graph, whose margins are its scale.
+    int ChangeView3D(int id, GraphData &graph) {
+        switch (id) {
+            case command::kGridLines:
+                toggle_grid_lines(graph);
+                return 0;
+            case command::kSetDefaultMargins:
+                set_default_scale(graph);
+                return 0;
+            case command::kSetDefaultOrientation:
+                set_default_orientation_3d(graph);
+                return 0;
+            case command::kSaveAsDefaultMargins:
+                save_default_scale(graph, graph.Scale);
+                return kMsgMarginsSaved;
+            case command::kSaveAsDefaultOrientation:
+                save_default_orientation_3d(graph, view_3d(graph));
+                return kMsgRotationSaved;
+            case command::kIncreaseMargins:
+            case command::kDecreaseMargins:
+                step_scale(graph, graph.Scale,
+                           id == command::kIncreaseMargins ? kScaleStep : -kScaleStep);
+                return 0;
+            default:  // a 3-D graph has no logarithmic axes
+                return -1;
         }
     }
 
@@ -210,6 +260,9 @@ public:
                 return true;
             case command::kRemoveAllPointLabels:
                 if (ChartView *view = pane->CurrentView()) view->removeAllLabels();
+                return true;
+            case command::kSet2DPerspective:
+                pane->Perspective();
                 return true;
             case command::kLogarithmicX:
             case command::kLogarithmicY:
@@ -359,6 +412,7 @@ constexpr int kGraphCommands[] = {command::kShowGraphWindow,
                                   command::kOpenGraphFile,
                                   command::kPointLabels,
                                   command::kRemoveAllPointLabels,
+                                  command::kSet2DPerspective,
                                   command::kLogarithmicX,
                                   command::kLogarithmicY,
                                   command::kGridLines,

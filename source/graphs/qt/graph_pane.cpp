@@ -2,20 +2,22 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 #include "graph_pane.h"
 
+#include <QAction>
 #include <QLineEdit>
 #include <QPainter>
 #include <QStackedLayout>
 #include <utility>
 
 #include "chart_camera.h"
-#include "chart_runs.h"
 #include "chart_decisions.h"
+#include "chart_runs.h"
 #include "chart_view_2d.h"
 #include "chart_view_3d.h"
 #include "graph_compute_host.h"
 #include "graph_layout.h"
 #include "graph_messages.h"
 #include "graph_progress_dialog.h"
+#include "grid_smoothing.h"
 
 namespace quindar {
 namespace {
@@ -32,6 +34,12 @@ GraphPane::GraphPane(QWidget *parent)
     connect(chart2D, &ChartView2D::clicked, this, &GraphPane::Click);
     connect(chart2D, &ChartView2D::doubleClicked, this, &GraphPane::DoubleClick);
     formatValue = [](double value) { return QString::number(value, 'g', 15); };
+    // Smoothing is in no menu: its key is the way to it.
+    auto *smooth = new QAction(tr("Smooth Graph"), this);
+    smooth->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_M));
+    smooth->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    connect(smooth, &QAction::triggered, this, &GraphPane::Smooth);
+    addAction(smooth);
 }
 
 GraphPane::~GraphPane() = default;
@@ -39,7 +47,9 @@ GraphPane::~GraphPane() = default;
 bool GraphPane::Build(Parser &parser, const GraphData &graph, GraphList *list,
                       const GraphBuildOutput &output) {
     if (building) return false;
-    GraphData work(graph);
+    labelBuilder.reset();
+    labelGraph = std::make_unique<GraphData>(graph);
+    GraphData &work = *labelGraph;
     if (work.GetGraphType() == kGraph2D) work.DataLayout = decide_data_layout(parser, work);
 
     GraphProgressDialog dialog(window());
@@ -50,7 +60,8 @@ bool GraphPane::Build(Parser &parser, const GraphData &graph, GraphList *list,
     parser.set_computation_hooks(&host);
     progress = &dialog;
     building = true;
-    GraphBuilder builder(parser, work, output);
+    labelBuilder = std::make_unique<GraphBuilder>(parser, work, output);
+    GraphBuilder &builder = *labelBuilder;
     const bool complete = builder.Build(list);
     building = false;
     progress = nullptr;
@@ -76,6 +87,44 @@ bool GraphPane::Build(Parser &parser, const GraphData &graph, GraphList *list,
 
 void GraphPane::Redraw(int angleMode) {
     if (GraphData *graph = Shown2D()) chart2D->apply(chart_spec_2d(*graph, angleMode));
+    if (GraphData *graph = Shown3D(); graph != nullptr && chart3D != nullptr) {
+        chart3D->apply(chart_spec_3d(*graph));
+    }
+}
+
+View3DValues GraphPane::ShownView3D() const {
+    if (chart3D == nullptr) return {};
+    const ChartSpec3D &spec = chart3D->spec();
+    const GraphView3D turned = view_from_camera(chart3D->camera());
+    // The camera holds no perspective depth and no roll: those stay as last drawn.
+    return {spec.perspectiveDepth, turned.xRotation,  spec.yRotation, turned.zRotation,
+            turned.xTranslate,     turned.yTranslate, turned.scale};
+}
+
+void GraphPane::SaveOrientation() {
+    if (GraphData *graph = Shown3D(); graph != nullptr && chart3D != nullptr)
+        set_view_3d(*graph, ShownView3D());
+}
+
+void GraphPane::Perspective() {
+    if (CurrentView() == chart2D) {
+        ChartSpec2D spec = chart2D->spec();
+        perspective_view(spec);
+        chart2D->apply(spec);
+    } else if (chart3D != nullptr && CurrentView() == chart3D) {
+        ChartSpec3D spec = chart3D->spec();
+        perspective_view(spec);
+        chart3D->apply(spec);
+    }
+}
+
+bool GraphPane::Smooth() {
+    if (chart3D == nullptr || CurrentView() != chart3D || building) return false;
+    ChartGrid3D *grid = data3D ? &*data3D : file3D ? &file3D->grid : nullptr;
+    if (grid == nullptr) return false;
+    smooth_grid(*grid);
+    chart3D->setData(*grid);
+    return true;
 }
 
 void GraphPane::Show3D(const ChartSpec3D &spec, const ChartGrid3D &grid) {
@@ -197,10 +246,14 @@ void GraphPane::Toggle3DLabel(int ix, int iz) {
     if (!pointLabelsOn || chart3D == nullptr || CurrentView() != chart3D) return;
     if (chart3D->removeLabel(ix, iz)) return;
     // A graph read from a file has no definition to label from.
-    if (!data3D || !data3D->in_range(ix, iz) || data3D->value(ix, iz) == data3D->hole()) return;
+    if (!data3D || !labelBuilder || !data3D->in_range(ix, iz) ||
+        data3D->value(ix, iz) == data3D->hole())
+        return;
+    // The values come from the definition, the function computed afresh, not from the grid.
+    complex x, y, z;
+    if (!labelBuilder->LabelValues3D(*data3D, ix, iz, x, y, z)) return;
     const QString text = QStringLiteral(" (%1 , %2 , %3) ")
-                             .arg(formatValue(data3D->x_at(ix)), formatValue(data3D->value(ix, iz)),
-                                  formatValue(data3D->z_at(iz)));
+                             .arg(formatValue(x.real), formatValue(y.real), formatValue(z.real));
     chart3D->addLabel(ix, iz, text);
 }
 

@@ -8,6 +8,7 @@
 
 #include <QWidget>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -16,6 +17,7 @@
 #include "graph_builder.h"
 #include "graph_data.h"
 #include "graph_file.h"
+#include "graph_view_commands_3d.h"
 
 class QLineEdit;
 class QPainter;
@@ -54,8 +56,20 @@ public:
     ChartView2D &Chart2D() const { return *chart2D; }
     // The built 2-D graph the pane shows (its working copy), null for none or a file.
     GraphData *Shown2D() { return shownGraph && data2D ? &*shownGraph : nullptr; }
+    // The same for a built 3-D graph.
+    GraphData *Shown3D() { return shownGraph && data3D ? &*shownGraph : nullptr; }
     // Draws the shown graph again from its definition, keeping data and labels.
     void Redraw(int angleMode);
+    // Carries a 3-D view the user turned on the chart into the shown graph, so that a redraw
+    // keeps it.
+    void SaveOrientation();
+    // The seven view values the 3-D chart shows.
+    View3DValues ShownView3D() const;
+    // Set 2D Perspective: the chart alone turns to face the viewer; the graph learns of it at
+    // the next SaveOrientation.
+    void Perspective();
+    // Smooths the 3-D chart's data once; false when no 3-D chart shows.
+    bool Smooth();
     // The 3-D chart, made on the first 3-D graph; null before.
     ChartView3D *Chart3D() const { return chart3D; }
     // The chart that shows, null for none.
@@ -105,6 +119,9 @@ private:
     std::optional<ChartGrid3D> data3D;
     std::optional<GraphFile2D> file2D;
     std::optional<GraphFile3D> file3D;
+    // The last build, kept for the values of 3-D point labels, which come from the definition.
+    std::unique_ptr<GraphData> labelGraph;
+    std::unique_ptr<GraphBuilder> labelBuilder;
 };
 
 }  // namespace quindar

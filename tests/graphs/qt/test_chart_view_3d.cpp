@@ -34,7 +34,8 @@ ChartGrid3D Saddle() {
     return grid;
 }
 
-ChartSpec3D Look(bool mesh, bool shade, bool contour, bool zone, bool hidden, bool bars = false) {
+ChartSpec3D Look(bool mesh, bool shade, bool contour, bool zone, bool hidden, bool bars = false,
+                 bool projection = false) {
     ChartSpec3D spec;
     spec.header = "Surface header";
     spec.footer = "Surface footer";
@@ -49,6 +50,8 @@ ChartSpec3D Look(bool mesh, bool shade, bool contour, bool zone, bool hidden, bo
     spec.zone = zone;
     spec.hidden = hidden;
     spec.bars = bars;
+    spec.projectZMax = projection ? 1 : 0;
+    spec.projectZMin = projection ? 2 : 0;
     spec.colors = {{0x0201, "DataAreaBackgroundColor", TColor(255, 255, 255)},
                    {0x020D, "SurfaceBottomColor", TColor(0, 0, 255)},
                    {0x020E, "SurfaceTopColor", TColor(255, 255, 0)}};
@@ -75,6 +78,7 @@ private slots:
     void holesStayEmptyOnTheSurface();
     void contoursDarkenTheSurface();
     void labelsAttachToGridPoints();
+    void theProjectionLiesUnderTheSurface();
     void screenshotsOfTheLooks();
     void theCameraFollowsTheViewAndReadsBack();
     void theRightButtonAsksForThePopUp();
@@ -155,6 +159,48 @@ void ChartView3DTest::labelsAttachToGridPoints() {
     QCOMPARE(picks.front(), (QList<QVariant>{2, 3}));
 }
 
+void ChartView3DTest::theProjectionLiesUnderTheSurface() {
+    if (Offscreen()) QSKIP("3-D needs OpenGL (run under Xvfb)");
+    ChartView3D view;
+    view.resize(600, 500);
+    // Flat zones seen from straight above: the surface and its floor picture share colours.
+    ChartSpec3D spec = Look(false, false, false, true, false, false, true);
+    spec.xRotation = 90;
+    spec.zRotation = 0;
+    view.setData(Saddle());
+    view.apply(spec);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    auto *surface = static_cast<Q3DSurface *>(view.graph());
+    QCOMPARE(view.projectionSeries().size(), std::size_t(1));
+    QSurface3DSeries *floor = view.projectionSeries().front();
+    QCOMPARE(floor->dataProxy()->itemAt(0, 0)->y(), surface->axisY()->min());
+    QSurface3DSeries *shape = surface->seriesList().front();
+    // Without perspective the floor and the surface over it meet the same pixels.
+    surface->setOrthoProjection(true);
+    floor->setVisible(false);
+    const QImage above = surface->renderToImage(0, QSize(400, 400));
+    floor->setVisible(true);
+    shape->setVisible(false);
+    const QImage below = surface->renderToImage(0, QSize(400, 400));
+    int same = 0, compared = 0;
+    for (int y = 60; y < 340; y += 7)
+        for (int x = 60; x < 340; x += 7) {
+            const QColor a = above.pixelColor(x, y), b = below.pixelColor(x, y);
+            // Only where the surface is drawn (no hole) and coloured (no grey wall).
+            if (a.saturation() < 80) continue;
+            ++compared;
+            same += std::abs(a.hue() - b.hue()) < 12 && std::abs(a.value() - b.value()) < 40;
+        }
+    QVERIFY2(compared > 200, qPrintable(QString::number(compared)));
+    QVERIFY2(same > compared * 8 / 10,
+             qPrintable(QStringLiteral("%1 of %2").arg(same).arg(compared)));
+    // Without the digit the floor goes.
+    view.apply(Look(false, false, false, true, false));
+    QVERIFY(view.projectionSeries().empty());
+    QCOMPARE(surface->seriesList().size(), 1);
+}
+
 void ChartView3DTest::screenshotsOfTheLooks() {
     if (Offscreen()) QSKIP("3-D needs OpenGL (run under Xvfb)");
     struct Shot {
@@ -168,6 +214,8 @@ void ChartView3DTest::screenshotsOfTheLooks() {
         {"zone_contour", Look(false, false, true, true, false)},
         {"hidden_lines", Look(true, false, false, false, true)},
         {"bars", Look(false, true, false, false, false, true)},
+        {"projection", Look(true, true, false, true, false, false, true)},
+        {"all_digits", Look(true, true, true, true, true, false, true)},
     };
     QDir().mkpath(QStringLiteral(QUINDAR_BUILD_DIR "screens"));
     ChartView3D view;
@@ -197,7 +245,7 @@ void ChartView3DTest::theCameraFollowsTheViewAndReadsBack() {
     const CameraView camera = view.camera();
     QCOMPARE(camera.xRotation, -60.0f);
     QCOMPARE(camera.yRotation, 40.0f);
-    QCOMPARE(camera.zoom, 150.0f);
+    QCOMPARE(camera.zoom, camera_from_view({40, 300, 1.5f, 0, 0}).zoom);
     // The user turns the chart: the view read back is the turned one.
     view.graph()->scene()->activeCamera()->setXRotation(30.0f);
     const GraphView3D turned = view_from_camera(view.camera());
