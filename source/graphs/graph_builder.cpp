@@ -429,14 +429,15 @@ bool GraphBuilder::ComputeValue(const char *text, complex &value) {
 }
 
 complex GraphBuilder::GetEqnDataSetValueY(complex x, complex z) {
-    const std::size_t open = Function3D.find('[');
+    // The function may be written with square or round brackets.
+    const std::size_t open = Function3D.find_first_of("[(");
     const std::string name = Function3D.substr(0, open);
     const int declared = parser.find_function(Function3D.c_str());
     if (declared < 0 && !parser.is_internal_function(name.c_str()) &&
         !parser.is_library_function(name.c_str()))
         return {};
     if (open == std::string::npos) return {};
-    const std::size_t close = Function3D.find(']', open);
+    const std::size_t close = Function3D.find(Function3D[open] == '[' ? ']' : ')', open);
     if (close == std::string::npos) return {};
     std::string call = name + "[";
     std::istringstream arguments(Function3D.substr(open + 1, close - open - 1));
