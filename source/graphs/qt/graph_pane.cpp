@@ -80,6 +80,14 @@ bool GraphPane::Build(Parser &parser, const GraphData &graph, GraphList *list,
         stack->setCurrentWidget(chart2D);
     } else if (data3D) {
         Show3D(chart_spec_3d(work), *data3D);
+    } else if (builder.Kind == kGraph3D) {
+        // Nothing computed at all (a function that cannot be mapped): an empty chart of the
+        // graph rather than the last one.
+        Show3D(chart_spec_3d(work), ChartGrid3D::regular(2, 2, kHoleValue, 1, 1, 0, 0));
+    } else {
+        chart2D->apply(chart_spec_2d(work, parser.angle_mode));
+        chart2D->setData(ChartData2D(1, 1, 0));
+        stack->setCurrentWidget(chart2D);
     }
     emit built();
     return complete;

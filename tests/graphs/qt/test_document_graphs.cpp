@@ -19,6 +19,8 @@
 #include <QTimer>
 #include <QtTest>
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "chart_data.h"
 #include "chart_view_2d.h"
@@ -72,6 +74,8 @@ private slots:
     void doubleClickOnTheHeaderEditsItInPlace();
     void aSurfaceWithoutOpenGlShowsANoticeAndStillSaves();
     void thePopUpRepeatsTheGraphMenu();
+    void aGraphWhoseEveryPointFailsDrawsAnEmptyChart();
+    void closingTheProgramDuringABuildIsRefused();
 };
 
 void DocumentGraphsTest::graphCommandBuildsAndSwapsBackKeepingTheText() {
@@ -313,6 +317,84 @@ void DocumentGraphsTest::thePopUpRepeatsTheGraphMenu() {
     for (QAction *action : menu->actions())
         if (action->text() == QStringLiteral("&Copy Graph To Clip Board"))
             QVERIFY(action->isEnabled());
+}
+
+void DocumentGraphsTest::aGraphWhoseEveryPointFailsDrawsAnEmptyChart() {
+    DesktopHarness harness;
+    install_graph_tools(harness.Bench());
+    DocumentWindow &document = *harness.Current();
+    // A data set whose every Y fails, then a function that cannot even be mapped.
+    GraphData *points = add_new_graph(document.Content().graphs, "Points", nullptr);
+    StrDataPnts *set = points->DataSets.add();
+    set->SetName("d");
+    const char *xs[] = {"1", "2", "3", "4"};
+    for (int i = 0; i < 4; ++i) {
+        set->PutXDataPoint(xs[i], i);
+        set->PutYDataPoint("1/0", i);
+    }
+    points->SetHeader("Nothing computes");
+    document.Engine().eval_exp("f(x)=1/(x-x)", true, false);
+    GraphData *broken = add_new_graph(document.Content().graphs, "Broken", nullptr);
+    broken->AddFunction("f(x)", "");
+    const Variable x("x", complex{0, 0}, complex{1, 0}, 6);
+    broken->SetXAxisVar(&x);
+    broken->SetHeader("Not even mapped");
+    GraphPane &pane = document_graph_pane(harness.Bench(), document);
+    struct Case {
+        GraphData *graph;
+        std::size_t errors;
+        const char *error;
+        bool data;
+        const char *header;
+    };
+    const Case cases[] = {
+        {points, 4, "Division By Zero", true, "Nothing computes"},
+        {broken, 2, "could not be mapped", false, "Not even mapped"},
+    };
+    for (const Case &c : cases) {
+        // The build reports what failed to the error list.
+        std::vector<std::string> errors;
+        GraphBuildOutput output;
+        output.add_error = [&errors](std::string_view line) { errors.emplace_back(line); };
+        pane.Build(document.Engine(), *c.graph, &document.Content().graphs, output);
+        QCOMPARE(errors.size(), c.errors);
+        QVERIFY2(errors.back().find(c.error) != std::string::npos, errors.back().c_str());
+        // An empty chart of this graph, never the one before, and no crash.
+        ChartView2D &chart = pane.Chart2D();
+        QCOMPARE(pane.CurrentView() != nullptr, c.data);
+        QVERIFY(chart.chart()->series().isEmpty());
+        QCOMPARE(chart.header()->text(), QString::fromUtf8(c.header));
+        if (c.data) QCOMPARE(Holes(*chart.data()), 4);
+        QVERIFY(!chart.renderImage(QSize(400, 300)).isNull());
+        // A click anywhere on it finds no point to label.
+        pane.Click(QPoint(200, 150));
+        QCOMPARE(chart.labelCount(), 0);
+    }
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DocumentGraphsTest::closingTheProgramDuringABuildIsRefused() {
+    DesktopHarness harness;
+    install_graph_tools(harness.Bench());
+    DocumentWindow &document = *harness.Current();
+    AddGraph(document, 4001);
+    GraphPane &pane = document_graph_pane(harness.Bench(), document);
+    pane.pumpMilliseconds = 0;
+    harness.boxes.Expect(QStringLiteral("You are currently building a graph, you must first stop "
+                                        "the computation process before closing the window?"),
+                         kIdOk);
+    bool frameClosed = true;
+    QTimer::singleShot(0, &pane, [&] {
+        QVERIFY(pane.Building());
+        frameClosed = harness.Frame().close();
+        pane.Progress()->cancelButton()->click();
+    });
+    QVERIFY(harness.Bench().Router().Execute(command::kShowGraphWindow));
+    QVERIFY(!frameClosed);
+    QVERIFY(!harness.Bench().closing);
+    QVERIFY(harness.Current() == &document);
+    QVERIFY(harness.boxes.shown.front().startsWith(QStringLiteral("Graph Window: ")));
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
 QTEST_MAIN(DocumentGraphsTest)
