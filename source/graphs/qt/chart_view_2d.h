@@ -14,8 +14,8 @@
 #include <vector>
 
 #include "chart_data.h"
-#include "chart_runs.h"
 #include "chart_decisions.h"
+#include "chart_runs.h"
 #include "chart_view.h"
 
 class QChart;

@@ -32,6 +32,9 @@ constexpr int kBackground = 0x0200, kForeground = 0x0204, kDataAreaBackground = 
 
 // The size of a projection picture: finer than any grid the Graph Setup allows to be drawn.
 constexpr int kProjectionSize = 512;
+constexpr float kLabelScale = 1.5f;
+// The height of a label over its point, as a share of the vertical range.
+constexpr float kLabelLift = 0.04f;
 
 QImage projection_image(const ProjectionRaster &raster) {
     QImage image(raster.width, raster.height, QImage::Format_ARGB32);
@@ -355,8 +358,13 @@ bool ChartView3D::addLabel(int ix, int iz, const QString &text) {
     label->setFont(font);
     label->setBackgroundColor(QColor(255, 255, 128));
     label->setFacingCamera(true);
-    label->setPosition(
-        QVector3D(float(grid_->x_at(ix)), float(grid_->value(ix, iz)), float(grid_->z_at(iz))));
+    label->setTextColor(Qt::black);
+    // The chart shrinks labels to a tenth unless told: full size reads like a 2-D label.
+    label->setScaling(QVector3D(kLabelScale, kLabelScale, kLabelScale));
+    // A little above its point, so that the surface around does not bury it.
+    const float lift = (high - low) * kLabelLift;
+    label->setPosition(QVector3D(float(grid_->x_at(ix)), float(grid_->value(ix, iz)) + lift,
+                                 float(grid_->z_at(iz))));
     graph()->addCustomItem(label);
     labels_[{ix, iz}] = label;
     return true;

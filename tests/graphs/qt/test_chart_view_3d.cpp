@@ -58,6 +58,13 @@ ChartSpec3D Look(bool mesh, bool shade, bool contour, bool zone, bool hidden, bo
     return spec;
 }
 
+// The look a new graph has: mesh, shading, contours and zones in the program's own colours.
+ChartSpec3D DefaultColours() {
+    GraphData graph("Default");
+    graph.SetHeader("Default colours");
+    return chart_spec_3d(graph);
+}
+
 bool Offscreen() {
     return QGuiApplication::platformName() == QLatin1String("offscreen");
 }
@@ -216,6 +223,7 @@ void ChartView3DTest::screenshotsOfTheLooks() {
         {"bars", Look(false, true, false, false, false, true)},
         {"projection", Look(true, true, false, true, false, false, true)},
         {"all_digits", Look(true, true, true, true, true, false, true)},
+        {"default_colours", DefaultColours()},
     };
     QDir().mkpath(QStringLiteral(QUINDAR_BUILD_DIR "screens"));
     ChartView3D view;
