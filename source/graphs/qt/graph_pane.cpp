@@ -197,34 +197,19 @@ std::string GraphPane::FileExtension() const {
 
 bool GraphPane::SaveFile(const std::string &path, std::string &error) const {
     // A 3-D file keeps the view as the user turned it.
-    const std::optional<GraphView3D> turned =
-        chart3D != nullptr && (data3D || file3D)
-            ? std::optional<GraphView3D>(view_from_camera(chart3D->camera()))
-            : std::nullopt;
+    const bool turned = chart3D != nullptr && (data3D || file3D);
     std::string text;
     if (file2D) {
         text = graph_file_text(*file2D);
     } else if (file3D) {
         GraphFile3D file = *file3D;
-        if (turned) {
-            file.view[1] = turned->xRotation;
-            file.view[3] = turned->zRotation;
-            file.view[4] = turned->xTranslate;
-            file.view[5] = turned->yTranslate;
-            file.view[6] = turned->scale;
-        }
+        if (turned) file.view = ShownView3D();
         text = graph_file_text(file);
     } else if (shownGraph && data2D) {
         text = graph_file_text(make_graph_file_2d(*shownGraph, *data2D));
     } else if (shownGraph && data3D) {
         GraphData graph = *shownGraph;
-        if (turned) {
-            graph.XRotation = turned->xRotation;
-            graph.ZRotation = turned->zRotation;
-            graph.XTranslate = turned->xTranslate;
-            graph.YTranslate = turned->yTranslate;
-            graph.Scale = turned->scale;
-        }
+        if (turned) set_view_3d(graph, ShownView3D());
         text = graph_file_text(make_graph_file_3d(graph, *data3D));
     } else {
         error = "no graph";
