@@ -3,6 +3,7 @@
 #include "graph_pane.h"
 
 #include <QAction>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
 #include <QStackedLayout>
@@ -235,7 +236,13 @@ void GraphPane::Print(QPainter &painter, const QRect &target) const {
     if (ChartView *view = CurrentView()) view->print(painter, target);
 }
 
+void GraphPane::keyPressEvent(QKeyEvent *event) {
+    modifierDown = event->key() == Qt::Key_Shift || event->key() == Qt::Key_Control;
+    QWidget::keyPressEvent(event);
+}
+
 void GraphPane::Toggle3DLabel(int ix, int iz) {
+    if (std::exchange(modifierDown, false)) return;
     if (!pointLabelsOn || chart3D == nullptr || CurrentView() != chart3D) return;
     if (chart3D->removeLabel(ix, iz)) return;
     // A graph read from a file has no definition to label from.
@@ -296,6 +303,7 @@ void GraphPane::Click(QPoint position) {
         if (region == (titleKind == 0 ? kRegionHeader : kRegionFooter)) return;
         CommitTitle();
     }
+    if (std::exchange(modifierDown, false)) return;
     if (!pointLabelsOn || CurrentView() != chart2D) return;
     const ChartPick hit = chart2D->pick(position);
     if (!pick_takes_label(hit.region, hit.distance)) return;

@@ -19,6 +19,7 @@
 #include "graph_file.h"
 #include "graph_view_commands_3d.h"
 
+class QKeyEvent;
 class QLineEdit;
 class QPainter;
 class QStackedLayout;
@@ -98,6 +99,11 @@ public:
     // Takes the editor's text into the chart and the shown graph, and closes it.
     void CommitTitle();
 
+protected:
+    // Shift or Ctrl as the last key pressed keeps the next click from labelling: that click
+    // belongs to the chart's own handling.
+    void keyPressEvent(QKeyEvent *event) override;
+
 signals:
     void built();
     // A header (kind 0) or footer (kind 1) was edited on a built graph.
@@ -111,6 +117,7 @@ private:
     ChartView3D *chart3D = nullptr;
     QLineEdit *titleEditor = nullptr;
     int titleKind = 0;
+    bool modifierDown = false;
     GraphProgressDialog *progress = nullptr;
     bool building = false;
     // What the pane shows: a built graph and its data, or a file's contents.

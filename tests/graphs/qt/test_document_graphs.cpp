@@ -170,6 +170,18 @@ void DocumentGraphsTest::aClickTogglesAPointLabel() {
     QCOMPARE(chart.labelCount(), 0);
     pane.Click(at + QPoint(0, 12));  // too far: nothing
     QCOMPARE(chart.labelCount(), 0);
+    // Shift as the last key: that click adds nothing, the next one does.
+    QTest::keyPress(&pane, Qt::Key_Shift);
+    pane.Click(at);
+    QCOMPARE(chart.labelCount(), 0);
+    pane.Click(at);
+    QVERIFY(chart.hasLabel(0, 3));
+    // Any other key clears it again.
+    pane.Click(at);
+    QTest::keyPress(&pane, Qt::Key_Control);
+    QTest::keyPress(&pane, Qt::Key_A);
+    pane.Click(at);
+    QVERIFY(chart.hasLabel(0, 3));
 }
 
 void DocumentGraphsTest::savedGraphOpensAgain() {
