@@ -18,6 +18,7 @@
 #include "command_table.h"
 #include "document_window.h"
 #include "graph_builder.h"
+#include "graph_file_view_commands.h"
 #include "graph_messages.h"
 #include "graph_pane.h"
 #include "graph_view_commands.h"
@@ -128,7 +129,10 @@ public:
                                          : pane->Shown2D() ? pane->Shown2D()
                                          : logAxis         ? nullptr
                                                            : pane->Shown3D();
-                state.enabled = graph != nullptr && !pane->Building();
+                // A graph read from a file takes the orientation and margin commands too.
+                const bool file = GraphShowing() && !logAxis && id != command::kGridLines &&
+                                  (pane->File2D() != nullptr || pane->File3D() != nullptr);
+                state.enabled = (graph != nullptr || file) && !pane->Building();
                 if (graph != nullptr && id == command::kLogarithmicX)
                     state.checked = graph->XAxisLogarithmic != 0;
                 if (graph != nullptr && id == command::kLogarithmicY)
@@ -155,6 +159,7 @@ public:
             saved = ChangeView3D(id, *graph3D);
             if (saved < 0) return;
         } else {
+            ChangeFileView(id);
             return;
         }
         const GraphData &graph = *(pane->Shown2D() ? pane->Shown2D() : pane->Shown3D());
@@ -167,6 +172,75 @@ public:
         document.MarkGraphsChanged();
         pane->Redraw(document.Engine().angle_mode);
         if (saved != 0) Tell(graph_message(saved), kBoxInformation);
+    }
+
+    // The same commands on a graph read from a file: the chart and the file's keys change,
+    // and what is saved as default is written into the file.
+    void ChangeFileView(int id) {
+        pane->SaveOrientation();
+        int saved = 0;
+        if (GraphFile2D *file = pane->File2D()) {
+            const ChartSpec2D &shown = pane->Chart2D().spec();
+            switch (id) {
+                case command::kIncreaseMargins:
+                case command::kDecreaseMargins:
+                    step_file_margins(*file, shown,
+                                      id == command::kIncreaseMargins ? kMarginStep : -kMarginStep);
+                    break;
+                case command::kSetDefaultMargins:
+                    set_file_default_margins(*file);
+                    break;
+                case command::kSaveAsDefaultMargins:
+                    save_file_default_margins(*file, shown);
+                    saved = kMsgMarginsSaved;
+                    break;
+                case command::kSetDefaultOrientation:
+                    set_file_default_orientation(*file);
+                    break;
+                case command::kSaveAsDefaultOrientation:
+                    save_file_default_orientation(*file, shown);
+                    saved = kMsgOrientationSaved;
+                    break;
+                default:
+                    return;
+            }
+        } else if (GraphFile3D *file3D = pane->File3D()) {
+            const float scale = file3D->view[6];
+            switch (id) {
+                case command::kIncreaseMargins:
+                case command::kDecreaseMargins:
+                    step_file_scale(*file3D, scale,
+                                    id == command::kIncreaseMargins ? kScaleStep : -kScaleStep);
+                    break;
+                case command::kSetDefaultMargins:
+                    set_file_default_scale(*file3D);
+                    break;
+                case command::kSaveAsDefaultMargins:
+                    save_file_default_scale(*file3D, scale);
+                    saved = kMsgMarginsSaved;
+                    break;
+                case command::kSetDefaultOrientation:
+                    set_file_default_orientation(*file3D);
+                    break;
+                case command::kSaveAsDefaultOrientation:
+                    save_file_default_orientation(*file3D, file3D->view);
+                    saved = kMsgRotationSaved;
+                    break;
+                default:
+                    return;
+            }
+        } else {
+            return;
+        }
+        pane->Redraw(document.Engine().angle_mode);
+        if (saved == 0) return;
+        std::string error;
+        if (!pane->RewriteFile(error)) {
+            workbench.Messages().ShowPlain(pane, QString::fromStdString(error),
+                                           QStringLiteral("Save Graph As"), kBoxWarning);
+            return;
+        }
+        Tell(graph_message(saved), kBoxInformation);
     }
 
     void Tell(std::string_view text, int kind) {

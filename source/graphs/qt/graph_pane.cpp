@@ -18,6 +18,7 @@
 #include "graph_layout.h"
 #include "graph_messages.h"
 #include "graph_progress_dialog.h"
+#include "graph_view_commands.h"
 #include "grid_smoothing.h"
 
 namespace quindar {
@@ -96,6 +97,8 @@ bool GraphPane::Build(Parser &parser, const GraphData &graph, GraphList *list,
 
 void GraphPane::Redraw(int angleMode) {
     if (GraphData *graph = Shown2D()) chart2D->apply(chart_spec_2d(*graph, angleMode));
+    if (file2D) chart2D->apply(chart_spec_2d(*file2D, angleMode));
+    if (file3D && chart3D != nullptr) chart3D->apply(chart_spec_3d(*file3D));
     if (GraphData *graph = Shown3D(); graph != nullptr && chart3D != nullptr) {
         chart3D->apply(chart_spec_3d(*graph));
     }
@@ -111,8 +114,18 @@ View3DValues GraphPane::ShownView3D() const {
 }
 
 void GraphPane::SaveOrientation() {
-    if (GraphData *graph = Shown3D(); graph != nullptr && chart3D != nullptr)
-        set_view_3d(*graph, ShownView3D());
+    if (file2D) {
+        // What the chart shows is what a graph file keeps.
+        const ChartSpec2D &shown = chart2D->spec();
+        file2D->depth = shown.depth;
+        file2D->inclination = shown.inclination;
+        file2D->rotation = shown.rotation;
+        file2D->margins = {shown_margin(shown.marginBottom), shown_margin(shown.marginTop),
+                           shown_margin(shown.marginLeft), shown_margin(shown.marginRight)};
+    }
+    if (chart3D == nullptr) return;
+    if (GraphData *graph = Shown3D()) set_view_3d(*graph, ShownView3D());
+    if (file3D) file3D->view = ShownView3D();
 }
 
 void GraphPane::Perspective() {
@@ -183,6 +196,7 @@ bool GraphPane::OpenFile(const std::string &path, const GraphDefaults &defaults,
     shownGraph.reset();
     data2D.reset();
     data3D.reset();
+    filePath = path;
     return true;
 }
 

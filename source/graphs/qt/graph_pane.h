@@ -59,6 +59,11 @@ public:
     GraphData *Shown2D() { return shownGraph && data2D ? &*shownGraph : nullptr; }
     // The same for a built 3-D graph.
     GraphData *Shown3D() { return shownGraph && data3D ? &*shownGraph : nullptr; }
+    // The graph file the pane shows, null for none.
+    GraphFile2D *File2D() { return file2D ? &*file2D : nullptr; }
+    GraphFile3D *File3D() { return file3D ? &*file3D : nullptr; }
+    // Writes the shown graph file again where it was read from; false with the reason.
+    bool RewriteFile(std::string &error) const { return SaveFile(filePath, error); }
     // Draws the shown graph again from its definition, keeping data and labels.
     void Redraw(int angleMode);
     // Carries a 3-D view the user turned on the chart into the shown graph, so that a redraw
@@ -126,6 +131,7 @@ private:
     std::optional<ChartGrid3D> data3D;
     std::optional<GraphFile2D> file2D;
     std::optional<GraphFile3D> file3D;
+    std::string filePath;
     // The last build, kept for the values of 3-D point labels, which come from the definition.
     std::unique_ptr<GraphData> labelGraph;
     std::unique_ptr<GraphBuilder> labelBuilder;

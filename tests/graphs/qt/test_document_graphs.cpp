@@ -60,6 +60,16 @@ int Holes(const ChartData2D &data) {
     return holes;
 }
 
+// The value of one key in a graph file's section.
+QString FileKey(const QString &path, const QString &key) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) return QStringLiteral("(unreadable)");
+    for (const QByteArray &line : file.readAll().split('\n'))
+        if (line.startsWith(key.toUtf8() + "="))
+            return QString::fromUtf8(line.mid(key.size() + 1)).trimmed();
+    return QStringLiteral("(missing)");
+}
+
 }  // namespace
 
 class DocumentGraphsTest : public QObject {
@@ -76,6 +86,7 @@ private slots:
     void thePopUpRepeatsTheGraphMenu();
     void aGraphWhoseEveryPointFailsDrawsAnEmptyChart();
     void closingTheProgramDuringABuildIsRefused();
+    void viewCommandsOnAGraphFileWriteItsKeys();
 };
 
 void DocumentGraphsTest::graphCommandBuildsAndSwapsBackKeepingTheText() {
@@ -310,6 +321,30 @@ void DocumentGraphsTest::aSurfaceWithoutOpenGlShowsANoticeAndStillSaves() {
                                                : QString());
     QVERIFY(saved.open(QIODevice::ReadOnly));
     QVERIFY(saved.readAll().startsWith("QUINDAR GRAPH DATA"));
+    saved.close();
+
+    // Opened again, its view commands work without a chart that draws: scale steps by a tenth,
+    // and the default scale is kept whole.
+    const QString path = harness.Folder() + QStringLiteral("/surface.g3d");
+    harness.nextOpenFiles = {path};
+    CommandRouter &router = harness.Bench().Router();
+    QVERIFY(router.Execute(command::kOpenGraphFile));
+    QVERIFY(pane.File3D() != nullptr);
+    QVERIFY(router.Execute(command::kIncreaseMargins));
+    QVERIFY(router.Execute(command::kIncreaseMargins));
+    QCOMPARE(pane.File3D()->view[6], 1.2f);
+    harness.boxes.Expect(QStringLiteral("The current margins have been saved as the default"),
+                         kIdOk);
+    QVERIFY(router.Execute(command::kSaveAsDefaultMargins));
+    QCOMPARE(FileKey(path, QStringLiteral("DefaultScale")), QStringLiteral("1.000"));
+    QCOMPARE(FileKey(path, QStringLiteral("Scale")), QStringLiteral("1.200"));
+    harness.boxes.Expect(
+        QStringLiteral("The current x,y,z rotation has been saved as the default orientation."),
+        kIdOk);
+    QVERIFY(router.Execute(command::kSaveAsDefaultOrientation));
+    QCOMPARE(FileKey(path, QStringLiteral("DefaultScale")), QStringLiteral("1.200"));
+    QVERIFY(router.Execute(command::kSetDefaultMargins));
+    QCOMPARE(pane.File3D()->view[6], 1.0f);
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
@@ -406,6 +441,53 @@ void DocumentGraphsTest::closingTheProgramDuringABuildIsRefused() {
     QVERIFY(!harness.Bench().closing);
     QVERIFY(harness.Current() == &document);
     QVERIFY(harness.boxes.shown.front().startsWith(QStringLiteral("Graph Window: ")));
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DocumentGraphsTest::viewCommandsOnAGraphFileWriteItsKeys() {
+    DesktopHarness harness;
+    install_graph_tools(harness.Bench());
+    DocumentWindow &document = *harness.Current();
+    AddGraph(document, 9);
+    CommandRouter &router = harness.Bench().Router();
+    QVERIFY(router.Execute(command::kShowGraphWindow));
+    GraphPane &pane = document_graph_pane(harness.Bench(), document);
+    const QString path = harness.Folder() + QStringLiteral("/margins.g2d");
+    harness.nextSaveFile = path;
+    QVERIFY(router.Execute(command::kSaveGraphFile));
+    harness.nextOpenFiles = {path};
+    QVERIFY(router.Execute(command::kOpenGraphFile));
+    QVERIFY(pane.File2D() != nullptr);
+    CommandState state;
+    QVERIFY(document.CommandEnabler(command::kIncreaseMargins, state));
+    QVERIFY(state.enabled);
+    QVERIFY(document.CommandEnabler(command::kGridLines, state));
+    QVERIFY2(!state.enabled, "the grid needs a graph's definition");
+    QVERIFY(document.CommandEnabler(command::kLogarithmicY, state));
+    QVERIFY(!state.enabled);
+
+    const QMargins before = pane.Chart2D().chart()->margins();
+    QVERIFY(router.Execute(command::kIncreaseMargins));
+    QCOMPARE(pane.Chart2D().chart()->margins(), before + QMargins(25, 25, 25, 25));
+    harness.boxes.Expect(QStringLiteral("The current margins have been saved as the default"),
+                         kIdOk);
+    QVERIFY(router.Execute(command::kSaveAsDefaultMargins));
+    QCOMPARE(FileKey(path, QStringLiteral("DefaultMarginTop2D")),
+             QString::number(before.top() + 25));
+    QCOMPARE(FileKey(path, QStringLiteral("MarginTop2D")), QString::number(before.top() + 25));
+    QVERIFY(router.Execute(command::kDecreaseMargins));
+    QVERIFY(router.Execute(command::kSetDefaultMargins));
+    QCOMPARE(pane.Chart2D().chart()->margins(), before + QMargins(25, 25, 25, 25));
+
+    // Set 2D Perspective turns the chart; Save As Default writes what it shows.
+    QVERIFY(router.Execute(command::kSet2DPerspective));
+    harness.boxes.Expect(QStringLiteral("The current rotation, inclination and margins have been "
+                                        "saved as the default orientation."),
+                         kIdOk);
+    QVERIFY(router.Execute(command::kSaveAsDefaultOrientation));
+    QCOMPARE(FileKey(path, QStringLiteral("DefaultInclination")), QStringLiteral("0"));
+    QCOMPARE(FileKey(path, QStringLiteral("Inclination")), QStringLiteral("0"));
+    QCOMPARE(FileKey(path, QStringLiteral("DefaultDepth")), QStringLiteral("20"));
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
