@@ -383,6 +383,7 @@ public:
         DocumentContent &content = document.Content();
         if (content.currentGraph == nullptr || pane->Building()) return;
         if (pane->HasChart() && !content.currentGraph->NeedsData) return;
+        KeepTurnedView();
         GraphBuildOutput output;
         output.show_message = [this](std::string_view text, std::string_view caption) {
             workbench.Messages().ShowPlain(pane, QString::fromUtf8(text.data(), int(text.size())),
@@ -396,12 +397,27 @@ public:
         pane->Build(document.Engine(), *content.currentGraph, &content.graphs, output);
     }
 
+    // A 3-D view the user turned on the chart goes into the document's graph, so that the next
+    // build and the saved document keep it.
+    void KeepTurnedView() {
+        GraphData *shown = pane->Shown3D();
+        if (shown == nullptr) return;
+        pane->SaveOrientation();
+        for (GraphData *stored = document.Content().graphs.gethead(); stored != nullptr;
+             stored = stored->next) {
+            if (stored->Name != shown->Name || view_3d(*stored) == view_3d(*shown)) continue;
+            set_view_3d(*stored, view_3d(*shown));
+            document.MarkGraphsChanged();
+        }
+    }
+
     bool ToText() {
         if (!GraphShowing()) return true;
         if (pane->Building()) {
             RefuseWhileBuilding(workbench, pane);
             return true;
         }
+        KeepTurnedView();
         workbench.PlaySound("Click.wav");
         pane->hide();
         document.TextPane().show();

@@ -66,6 +66,7 @@ private slots:
     void aPickLabelsThePointFromTheDefinition();
     void viewCommandsTurnAndZoomTheChart();
     void aTurnedViewSurvivesAGraphFile();
+    void aTurnedViewGoesIntoTheDocumentsGraph();
 };
 
 void DocumentGraphs3DTest::aPickLabelsThePointFromTheDefinition() {
@@ -192,6 +193,30 @@ void DocumentGraphs3DTest::aTurnedViewSurvivesAGraphFile() {
     QCOMPARE(back.xRotation, turned.xRotation);
     QCOMPARE(back.yRotation, turned.yRotation);
     QCOMPARE(back.zoom, turned.zoom);
+}
+
+void DocumentGraphs3DTest::aTurnedViewGoesIntoTheDocumentsGraph() {
+    if (Offscreen()) QSKIP("3-D needs OpenGL (run under Xvfb)");
+    DesktopHarness harness;
+    install_graph_tools(harness.Bench());
+    DocumentWindow &document = *harness.Current();
+    GraphData &stored = AddSurface(document);
+    CommandRouter &router = harness.Bench().Router();
+    QVERIFY(router.Execute(command::kShowGraphWindow));
+    GraphPane &pane = document_graph_pane(harness.Bench(), document);
+    Q3DCamera *camera = pane.Chart3D()->graph()->scene()->activeCamera();
+    camera->setXRotation(60.0f);
+    camera->setYRotation(35.0f);
+    QVERIFY(!document.Changes().graphsChanged);
+    QVERIFY(router.Execute(command::kShowMathWindow));
+    QCOMPARE(stored.ZRotation, 60.0f);
+    QCOMPARE(stored.XRotation, 35.0f);
+    QVERIFY(document.Changes().graphsChanged);
+    // The next build starts from the turned view.
+    stored.NeedsData = true;
+    QVERIFY(router.Execute(command::kShowGraphWindow));
+    QCOMPARE(pane.Chart3D()->camera().xRotation, 60.0f);
+    QCOMPARE(pane.Chart3D()->camera().yRotation, 35.0f);
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
