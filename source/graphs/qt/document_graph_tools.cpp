@@ -16,6 +16,7 @@
 #include "chart_view.h"
 #include "chart_view_2d.h"
 #include "command_table.h"
+#include "document_panes.h"
 #include "document_window.h"
 #include "graph_builder.h"
 #include "graph_file_view_commands.h"
@@ -357,7 +358,12 @@ public:
     void ShowPane() {
         if (GraphShowing()) return;
         workbench.PlaySound("Click.wav");
+        // The graph takes the whole document: the lists that are open close, the text hides.
+        DocumentPanes &panes = document.Panes();
+        if (panes.VariablesListOpen()) panes.CommandHandler(command::kVariablesList);
+        if (panes.FunctionsListOpen()) panes.CommandHandler(command::kFunctionsList);
         document.TextPane().hide();
+        panes.hide();
         pane->show();
         pane->setFocus();
         CaptionChanged();
@@ -420,6 +426,7 @@ public:
         KeepTurnedView();
         workbench.PlaySound("Click.wav");
         pane->hide();
+        document.Panes().show();
         document.TextPane().show();
         document.TextPane().setFocus();
         CaptionChanged();

@@ -8,6 +8,7 @@
 #include <QChart>
 #include <QChartView>
 #include <QClipboard>
+#include <QDir>
 #include <QFile>
 #include <QGuiApplication>
 #include <QLabel>
@@ -29,6 +30,7 @@
 #include "command_table.h"
 #include "desktop_harness.h"
 #include "document_graph_tools.h"
+#include "document_panes.h"
 #include "document_window.h"
 #include "graph_pane.h"
 #include "graph_progress_dialog.h"
@@ -95,10 +97,16 @@ void DocumentGraphsTest::graphCommandBuildsAndSwapsBackKeepingTheText() {
     DocumentWindow &document = *harness.Current();
     document.TextPane().setPlainText(QStringLiteral("a=1\nkept text"));
     AddGraph(document, 41);
+    if (!document.Panes().FunctionsListOpen())
+        document.Panes().CommandHandler(command::kFunctionsList);
+    QVERIFY(document.Panes().FunctionsListOpen());
     QVERIFY(harness.Bench().Router().Execute(command::kShowGraphWindow));
     GraphPane &pane = document_graph_pane(harness.Bench(), document);
     QVERIFY(!pane.isHidden());
     QVERIFY(document.TextPane().isHidden());
+    // The lists close while the graph shows the document, and stay closed after.
+    QVERIFY(!document.Panes().VariablesListOpen());
+    QVERIFY(!document.Panes().FunctionsListOpen());
     QCOMPARE(document.Caption(), QStringLiteral("1 - MATH EDITOR : G"));
     const ChartView2D &chart = pane.Chart2D();
     QVERIFY(chart.data().has_value());
@@ -112,6 +120,14 @@ void DocumentGraphsTest::graphCommandBuildsAndSwapsBackKeepingTheText() {
     QVERIFY(document.CommandEnabler(command::kShowGraphWindow, state));
     QVERIFY(state.checked);
 
+    // The whole program with the graph in its document, for a look.
+    harness.Frame().resize(1000, 700);
+    harness.Frame().show();
+    QVERIFY(QTest::qWaitForWindowExposed(&harness.Frame()));
+    QDir().mkpath(QStringLiteral(QUINDAR_BUILD_DIR "screens"));
+    QVERIFY(harness.Frame().grab().save(
+        QStringLiteral(QUINDAR_BUILD_DIR "screens/document_graph2d.png")));
+
     QGuiApplication::clipboard()->clear();
     QVERIFY(harness.Bench().Router().Execute(command::kCopyGraph));
     QVERIFY(!QGuiApplication::clipboard()->image().isNull());
@@ -119,6 +135,8 @@ void DocumentGraphsTest::graphCommandBuildsAndSwapsBackKeepingTheText() {
     QVERIFY(harness.Bench().Router().Execute(command::kShowGraphWindow));
     QVERIFY(pane.isHidden());
     QVERIFY(!document.TextPane().isHidden());
+    QVERIFY(document.TextPane().isVisible());
+    QVERIFY(!document.Panes().VariablesListOpen());
     QCOMPARE(document.TextPane().toPlainText(), QStringLiteral("a=1\nkept text"));
     QCOMPARE(document.Caption(), QStringLiteral("1 - MATH EDITOR"));
     QVERIFY(document.CommandEnabler(command::kCopyGraph, state));
