@@ -232,8 +232,9 @@ void ChartView3D::applyLooks() {
     theme->setGridLineColor(chart_color(spec_.colors, kForeground, Qt::gray));
     theme->setGridEnabled(spec_.gridLines);
     theme->setBackgroundEnabled(true);
-    theme->setAmbientLightStrength(spec_.shade ? 0.25f : 1.0f);
-    theme->setLightStrength(spec_.shade ? 5.0f : 0.0f);
+    // Enough ambient light that a face turned from the lamp still shows its colour.
+    theme->setAmbientLightStrength(spec_.shade ? 0.55f : 1.0f);
+    theme->setLightStrength(spec_.shade ? 4.0f : 0.0f);
 
     SurfaceLook look{spec_.shade,       spec_.zone,        spec_.contour,
                      TColor(0, 0, 255), TColor(255, 0, 0), TColor(192, 192, 192)};
