@@ -28,7 +28,10 @@ namespace {
 constexpr int kBackground = 0x0200, kForeground = 0x0204, kDataAreaBackground = 0x0201,
               kFooterBackground = 0x0202, kFooterForeground = 0x0203, kGraphBackground = 0x0205,
               kGraphForeground = 0x0206, kHeaderBackground = 0x0207, kHeaderForeground = 0x0208,
-              kMeshTop = 0x020C, kSurfaceBottom = 0x020D, kSurfaceTop = 0x020E;
+              kLegendBackground = 0x0209, kLegendForeground = 0x020A, kMeshTop = 0x020C,
+              kSurfaceBottom = 0x020D, kSurfaceTop = 0x020E;
+// Room between two names of the legend.
+const QString kLegendGap = QStringLiteral("     ");
 
 // The size of a projection picture: finer than any grid the Graph Setup allows to be drawn.
 constexpr int kProjectionSize = 512;
@@ -52,11 +55,16 @@ ChartView3D::ChartView3D(QWidget *parent)
       header_(new QLabel(this)),
       footer_(new QLabel(this)),
       notice_(new QLabel(noOpenGlText(), this)),
+      legend_(new QLabel(this)),
       stack_(new QStackedWidget(this)) {
     setAccessibleName(tr("3-D graph"));
     header_->setAccessibleName(tr("Graph header"));
     footer_->setAccessibleName(tr("Graph footer"));
     notice_->setAccessibleName(tr("Graph notice"));
+    legend_->setAccessibleName(tr("Graph legend"));
+    legend_->setAlignment(Qt::AlignCenter);
+    legend_->setAutoFillBackground(true);
+    legend_->setContentsMargins(8, 4, 8, 4);
     header_->setAlignment(Qt::AlignCenter);
     footer_->setAlignment(Qt::AlignCenter);
     notice_->setAlignment(Qt::AlignCenter);
@@ -65,10 +73,12 @@ ChartView3D::ChartView3D(QWidget *parent)
     layout->setSpacing(0);
     layout->addWidget(header_);
     layout->addWidget(stack_, 1);
+    layout->addWidget(legend_);
     layout->addWidget(footer_);
     stack_->addWidget(notice_);
     header_->hide();
     footer_->hide();
+    legend_->hide();
     setAutoFillBackground(true);
     makeGraph(false);
 }
@@ -136,6 +146,16 @@ void ChartView3D::rebuild() {
     show_title(*footer_, spec_.footer, spec_.footerFont,
                chart_color(spec_.colors, kFooterBackground, Qt::white),
                chart_color(spec_.colors, kFooterForeground, Qt::black));
+    QStringList names;
+    for (const std::string &name : spec_.dataLabels) names << QString::fromStdString(name);
+    legend_->setText(names.join(kLegendGap));
+    QPalette legendColours = legend_->palette();
+    legendColours.setColor(QPalette::Window,
+                           chart_color(spec_.colors, kLegendBackground, Qt::white));
+    legendColours.setColor(QPalette::WindowText,
+                           chart_color(spec_.colors, kLegendForeground, Qt::black));
+    legend_->setPalette(legendColours);
+    legend_->setVisible(!names.isEmpty());
     QPalette palette = this->palette();
     palette.setColor(QPalette::Window, chart_color(spec_.colors, kBackground, Qt::white));
     palette.setColor(QPalette::WindowText, chart_color(spec_.colors, kForeground, Qt::black));
@@ -414,6 +434,7 @@ void ChartView3D::print(QPainter &painter, const QRect &target) {
             p.setPen(palette().color(QPalette::WindowText));
             p.drawText(area, Qt::AlignCenter | Qt::TextWordWrap, notice_->text());
         }
+        paint_frame_label(p, *legend_);
     });
 }
 

@@ -41,6 +41,8 @@ public:
     // The text shown when the machine cannot draw 3-D.
     static QString noOpenGlText();
     QLabel *notice() const { return notice_; }
+    // The names of the graph's functions and data sets under the chart; hidden for none.
+    QLabel *legend() const { return legend_; }
     QAbstract3DGraph *graph() const;
     // Where the user has turned the view (the decisions' view while nothing can draw).
     CameraView camera() const;
@@ -81,6 +83,7 @@ private:
     QLabel *header_;
     QLabel *footer_;
     QLabel *notice_;
+    QLabel *legend_;
     QStackedWidget *stack_;
     Q3DSurface *surface_ = nullptr;
     Q3DBars *bars_ = nullptr;

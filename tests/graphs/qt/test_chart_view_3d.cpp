@@ -82,6 +82,7 @@ class ChartView3DTest : public QObject {
     Q_OBJECT
 private slots:
     void withoutOpenGlTheChartSaysSo();
+    void theLegendNamesTheFunctionsAndSets();
     void holesStayEmptyOnTheSurface();
     void contoursDarkenTheSurface();
     void labelsAttachToGridPoints();
@@ -107,6 +108,29 @@ void ChartView3DTest::withoutOpenGlTheChartSaysSo() {
     QVERIFY(!image.isNull());
     view.apply(Look(true, true, false, false, false, true));  // bars: the same
     QVERIFY(!view.canDraw());
+}
+
+void ChartView3DTest::theLegendNamesTheFunctionsAndSets() {
+    // The legend needs no OpenGL: it stands beside the chart on every display.
+    ChartView3D view;
+    view.resize(500, 400);
+    ChartSpec3D spec = Look(true, true, false, false, false);
+    view.apply(spec);
+    QVERIFY(view.legend()->isHidden());
+    spec.dataLabels = {"s(x,z)", "Measured"};
+    spec.colors.push_back({0x0209, "LegendBackgroundColor", TColor(10, 20, 30)});
+    spec.colors.push_back({0x020A, "LegendForegroundColor", TColor(200, 210, 220)});
+    view.apply(spec);
+    view.setData(Saddle());
+    QVERIFY(!view.legend()->isHidden());
+    QCOMPARE(view.legend()->text(), QStringLiteral("s(x,z)     Measured"));
+    QCOMPARE(view.legend()->palette().color(QPalette::Window), QColor(10, 20, 30));
+    QCOMPARE(view.legend()->palette().color(QPalette::WindowText), QColor(200, 210, 220));
+    // The picture of the chart carries the legend's colour near its foot.
+    const QImage image = view.renderImage(QSize(500, 400));
+    int legendPixels = 0;
+    for (int y = 200; y < 400; ++y) legendPixels += image.pixelColor(250, y) == QColor(10, 20, 30);
+    QVERIFY2(legendPixels > 5, qPrintable(QString::number(legendPixels)));
 }
 
 void ChartView3DTest::holesStayEmptyOnTheSurface() {
