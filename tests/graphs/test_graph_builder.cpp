@@ -456,6 +456,28 @@ TEST_F(GraphBuild, ThreeDimensionalLabelsComputeTheFunctionAtTheGridPoint) {
     }
 }
 
+TEST_F(GraphBuild, ThreeDimensionalLabelsOfDataSetsReadTheirYTexts) {
+    // Each set is one row of the grid at its Z; a label computes the set's Y text afresh.
+    AddDataSet("a", {"1", "2", "3"}, {"10", "20", "30"}, "5");
+    AddDataSet("b", {"1", "2", "3"}, {"1+1", "2*2", "6"}, "7");
+    ASSERT_EQ(graph.GetGraphType(), kGraph3D);
+    Build();
+    ASSERT_TRUE(builder->Data3D);
+    const ChartGrid3D &grid = *builder->Data3D;
+    struct Point {
+        int ix, iz;
+        double y;
+    };
+    const Point points[] = {{0, 0, 10.0}, {2, 0, 30.0}, {1, 1, 4.0}, {0, 1, 2.0}};
+    for (const Point &p : points) {
+        complex x, y, z;
+        ASSERT_TRUE(builder->LabelValues3D(grid, p.ix, p.iz, x, y, z));
+        EXPECT_EQ(x.real, grid.x_at(p.ix)) << p.ix << "," << p.iz;
+        EXPECT_EQ(z.real, grid.z_at(p.iz)) << p.ix << "," << p.iz;
+        EXPECT_EQ(y.real, p.y) << p.ix << "," << p.iz;
+    }
+}
+
 TEST(GraphWindowCaption, EditorAndGraphInUpperCase) {
     EXPECT_EQ(graph_window_caption("notes.qnd", "Sales 2"), "NOTES.QND : SALES 2");
     EXPECT_EQ(graph_window_caption("", "Sales"), "Graph");
