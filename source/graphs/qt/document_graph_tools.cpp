@@ -171,7 +171,8 @@ public:
                 copy_view_fields_3d(graph, *stored);
             }
         document.MarkGraphsChanged();
-        pane->Redraw(document.Engine().angle_mode);
+        // Saving a default leaves the chart as the user sees it.
+        if (saved == 0) pane->Redraw(document.Engine().angle_mode);
         if (saved != 0) Tell(graph_message(saved), kBoxInformation);
     }
 
@@ -233,8 +234,10 @@ public:
         } else {
             return;
         }
-        pane->Redraw(document.Engine().angle_mode);
-        if (saved == 0) return;
+        if (saved == 0) {
+            pane->Redraw(document.Engine().angle_mode);
+            return;
+        }
         std::string error;
         if (!pane->RewriteFile(error)) {
             workbench.Messages().ShowPlain(pane, QString::fromStdString(error),

@@ -157,6 +157,11 @@ void DocumentGraphs3DTest::viewCommandsTurnAndZoomTheChart() {
     QCOMPARE(pane.Chart3D()->camera().xRotation, 0.0f);
     QCOMPARE(pane.Chart3D()->camera().yRotation, 0.0f);
     QCOMPARE(stored.ZRotation, 30.0f);
+    // Saving the margins as default leaves the turned chart as it is.
+    harness.boxes.Expect(QStringLiteral("The current margins have been saved as the default"),
+                         kIdOk);
+    QVERIFY(router.Execute(command::kSaveAsDefaultMargins));
+    QCOMPARE(pane.Chart3D()->camera().yRotation, 0.0f);
     // Set Default brings the saved default back onto the chart.
     QVERIFY(router.Execute(command::kSetDefaultOrientation));
     QCOMPARE(pane.Chart3D()->camera().xRotation, 30.0f);
