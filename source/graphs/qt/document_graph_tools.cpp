@@ -55,7 +55,10 @@ public:
         pane->formatValue = [this](double value) {
             std::ostringstream text;
             complex number{value, 0};
-            document.Engine().stream_variable(number, text, 15);
+            // A label shows as many digits as the answers of the text do.
+            const PrecformType *format = document.Engine().answer_format.get();
+            document.Engine().stream_variable(number, text,
+                                              static_cast<int>(format ? format->precision : 14));
             return QString::fromStdString(text.str());
         };
         // The document's close asks whether anything computes.

@@ -199,6 +199,11 @@ void DocumentGraphsTest::aClickTogglesAPointLabel() {
     QCOMPARE(chart.labelCount(), 0);
     pane.Click(at + QPoint(0, 12));  // too far: nothing
     QCOMPARE(chart.labelCount(), 0);
+    // Labels show the digits the text's answers show.
+    document.Engine().answer_format->precision = 3;
+    QCOMPARE(pane.formatValue(2.0 / 3), QStringLiteral("0.667"));
+    document.Engine().answer_format->precision = 14;
+    QCOMPARE(pane.formatValue(2.0 / 3), QStringLiteral("0.66666666666667"));
     // Shift as the last key: that click adds nothing, the next one does.
     QTest::keyPress(&pane, Qt::Key_Shift);
     pane.Click(at);
