@@ -282,8 +282,7 @@ void ChartView3D::applyLooks() {
         QSurface3DSeries::DrawFlags flags;
         if (surfaceDrawn) flags |= QSurface3DSeries::DrawSurface;
         if (meshDrawn) flags |= QSurface3DSeries::DrawWireframe;
-        for (QSurface3DSeries *series : surface_->seriesList()) {
-            if (series != surfaceSeries) continue;
+        if (QSurface3DSeries *series = surfaceSeries) {
             series->setDrawMode(flags);
             series->setWireframeColor(mesh);
             series->setFlatShadingEnabled(!spec_.shade);
