@@ -45,6 +45,16 @@ GraphData &AddSurface(DocumentWindow &document) {
     return *graph;
 }
 
+// The graph tools installed, and the surface built into the graph pane of the harness's
+// document.
+GraphPane &ShowSurface(DesktopHarness &harness) {
+    install_graph_tools(harness.Bench());
+    DocumentWindow &document = *harness.Current();
+    AddSurface(document);
+    harness.Bench().Router().Execute(command::kShowGraphWindow);
+    return document_graph_pane(harness.Bench(), document);
+}
+
 bool Offscreen() {
     return QGuiApplication::platformName() == QLatin1String("offscreen");
 }
@@ -72,13 +82,9 @@ private slots:
 void DocumentGraphs3DTest::aPickLabelsThePointFromTheDefinition() {
     if (Offscreen()) QSKIP("3-D needs OpenGL (run under Xvfb)");
     DesktopHarness harness;
-    install_graph_tools(harness.Bench());
-    DocumentWindow &document = *harness.Current();
-    AddSurface(document);
     harness.Frame().resize(1000, 760);
     harness.Frame().show();
-    QVERIFY(harness.Bench().Router().Execute(command::kShowGraphWindow));
-    GraphPane &pane = document_graph_pane(harness.Bench(), document);
+    GraphPane &pane = ShowSurface(harness);
     QVERIFY(pane.Chart3D() != nullptr && pane.Chart3D()->canDraw());
     QVERIFY(QTest::qWaitForWindowExposed(&harness.Frame()));
     // Smoothing changes the drawn grid, never what a label says: it computes the function.
@@ -115,12 +121,10 @@ void DocumentGraphs3DTest::aPickLabelsThePointFromTheDefinition() {
 void DocumentGraphs3DTest::viewCommandsTurnAndZoomTheChart() {
     if (Offscreen()) QSKIP("3-D needs OpenGL (run under Xvfb)");
     DesktopHarness harness;
-    install_graph_tools(harness.Bench());
+    GraphPane &pane = ShowSurface(harness);
     DocumentWindow &document = *harness.Current();
-    GraphData &stored = AddSurface(document);
+    GraphData &stored = *document.Content().currentGraph;
     CommandRouter &router = harness.Bench().Router();
-    QVERIFY(router.Execute(command::kShowGraphWindow));
-    GraphPane &pane = document_graph_pane(harness.Bench(), document);
     const float zoomAtOne = pane.Chart3D()->camera().zoom;
     CommandState state;
     QVERIFY(document.CommandEnabler(command::kIncreaseMargins, state));
@@ -177,11 +181,7 @@ void DocumentGraphs3DTest::viewCommandsTurnAndZoomTheChart() {
 void DocumentGraphs3DTest::aTurnedViewSurvivesAGraphFile() {
     if (Offscreen()) QSKIP("3-D needs OpenGL (run under Xvfb)");
     DesktopHarness harness;
-    install_graph_tools(harness.Bench());
-    DocumentWindow &document = *harness.Current();
-    AddSurface(document);
-    QVERIFY(harness.Bench().Router().Execute(command::kShowGraphWindow));
-    GraphPane &pane = document_graph_pane(harness.Bench(), document);
+    GraphPane &pane = ShowSurface(harness);
     Q3DCamera *camera = pane.Chart3D()->graph()->scene()->activeCamera();
     camera->setXRotation(-120.0f);
     camera->setYRotation(40.0f);
@@ -203,12 +203,10 @@ void DocumentGraphs3DTest::aTurnedViewSurvivesAGraphFile() {
 void DocumentGraphs3DTest::aTurnedViewGoesIntoTheDocumentsGraph() {
     if (Offscreen()) QSKIP("3-D needs OpenGL (run under Xvfb)");
     DesktopHarness harness;
-    install_graph_tools(harness.Bench());
+    GraphPane &pane = ShowSurface(harness);
     DocumentWindow &document = *harness.Current();
-    GraphData &stored = AddSurface(document);
+    GraphData &stored = *document.Content().currentGraph;
     CommandRouter &router = harness.Bench().Router();
-    QVERIFY(router.Execute(command::kShowGraphWindow));
-    GraphPane &pane = document_graph_pane(harness.Bench(), document);
     Q3DCamera *camera = pane.Chart3D()->graph()->scene()->activeCamera();
     camera->setXRotation(60.0f);
     camera->setYRotation(35.0f);
