@@ -5,12 +5,14 @@
 #include <Q3DBars>
 #include <Q3DSurface>
 #include <QBar3DSeries>
+#include <QCustom3DItem>
 #include <QCustom3DLabel>
 #include <QLabel>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QStackedWidget>
 #include <QSurface3DSeries>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <cmath>
 #include <limits>
@@ -33,9 +35,12 @@ constexpr int kBackground = 0x0200, kForeground = 0x0204, kDataAreaBackground = 
 // Room between two names of the legend.
 const QString kLegendGap = QStringLiteral("     ");
 
-// The size of a projection picture: finer than any grid the Graph Setup allows to be drawn.
-constexpr int kProjectionSize = 512;
+// The size of a projection picture: fine enough for smooth level lines, coarse enough that a
+// line one texel wide still shows on screen.
+constexpr int kProjectionSize = 256;
 constexpr float kLabelScale = 1.5f;
+// Longer than the chart takes to answer a pick on a later frame, even on a slow display.
+constexpr int kPickMilliseconds = 1000;
 // The height of a label over its point, as a share of the vertical range.
 constexpr float kLabelLift = 0.04f;
 
@@ -106,6 +111,7 @@ bool ChartView3D::makeGraph(bool bars) {
         bars_ = nullptr;
         surfaceSeries = nullptr;
         projections.clear();
+        ceilingItem = nullptr;
     }
     graphBars = bars;
     QAbstract3DGraph *made = nullptr;
@@ -120,6 +126,15 @@ bool ChartView3D::makeGraph(bool bars) {
         made->setActiveInputHandler(handler);
         connect(handler, &ChartInputHandler::popupRequested, this, [this](QPoint at) {
             emit popupRequested(container_ != nullptr ? container_->mapTo(this, at) : at);
+        });
+        // The ceiling would take the click from the surface under it: it steps aside while
+        // the chart picks, and comes back with the answer, or after a while when none comes.
+        connect(handler, &ChartInputHandler::pickRequested, this, [this] {
+            if (ceilingItem == nullptr) return;
+            ceilingItem->setVisible(false);
+            QTimer::singleShot(kPickMilliseconds, this, [this] {
+                if (ceilingItem != nullptr) ceilingItem->setVisible(true);
+            });
         });
     }
     container_ = QWidget::createWindowContainer(made, this);
@@ -201,6 +216,8 @@ void ChartView3D::fillSurface() {
     // The chart answers (row, column), that is (iz, ix); the selection is let go at once, so
     // a second click on the same point answers again.
     connect(series, &QSurface3DSeries::selectedPointChanged, this, [this, series](QPoint at) {
+        // The pick has been answered: a ceiling that stepped aside comes back.
+        if (ceilingItem != nullptr) ceilingItem->setVisible(true);
         if (at == QSurface3DSeries::invalidSelectionPosition()) return;
         series->setSelectedPoint(QSurface3DSeries::invalidSelectionPosition());
         emit picked(at.y(), at.x());
@@ -318,12 +335,15 @@ void ChartView3D::projectSurface(const SurfaceLook &look) {
         delete old;
     }
     projections.clear();
+    if (ceilingItem != nullptr) surface_->removeCustomItem(ceilingItem);
+    ceilingItem = nullptr;
     const ProjectionPlanes planes = projection_planes(spec_);
-    // The chart draws no see-through plane: a ceiling would hide the surface and take its
-    // clicks, so the projection lies on the floor alone.
-    if ((!planes.floor && !planes.ceiling) || !grid_ || surfaceSeries == nullptr ||
-        grid_->nx() < 2 || grid_->nz() < 2)
-        return;
+    if (!grid_ || surfaceSeries == nullptr || grid_->nx() < 2 || grid_->nz() < 2) return;
+    if (planes.floor) projectOnFloor(look);
+    if (planes.ceiling) projectOnCeiling(look);
+}
+
+void ChartView3D::projectOnFloor(const SurfaceLook &look) {
     const ChartGrid3D &grid = *grid_;
     // A flat sheet of two by two points over the grid's extent carries the picture.
     auto *array = new QSurfaceDataArray;
@@ -344,6 +364,30 @@ void ChartView3D::projectSurface(const SurfaceLook &look) {
                           .mirrored(false, true));
     surface_->addSeries(plane);
     projections.push_back(plane);
+}
+
+void ChartView3D::projectOnCeiling(const SurfaceLook &look) {
+    const ChartGrid3D &grid = *grid_;
+    // The level lines alone on a see-through sheet at the top of the box, so that the surface
+    // stays in sight. The chart's plane mesh spans -1..1 upright: it is laid flat and
+    // stretched over the data's extent (its scale counts in data units), its texture turned
+    // as the floor's.
+    auto *ceiling = new QCustom3DItem;
+    ceiling->setMeshFile(QStringLiteral(":/defaultMeshes/plane"));
+    ceiling->setTextureImage(
+        projection_image(
+            projection_raster(grid, look, low, high, kProjectionSize, kProjectionSize, true))
+            .mirrored(false, true));
+    ceiling->setPositionAbsolute(true);
+    ceiling->setPosition(QVector3D(0.0f, 1.0f, 0.0f));
+    ceiling->setScalingAbsolute(false);
+    const float halfX = float(std::abs(grid.x_at(grid.nx() - 1) - grid.x_at(0)) / 2);
+    const float halfZ = float(std::abs(grid.z_at(grid.nz() - 1) - grid.z_at(0)) / 2);
+    ceiling->setScaling(QVector3D(halfX, halfZ, 1.0f));
+    ceiling->setRotation(QQuaternion::fromAxisAndAngle(1.0f, 0.0f, 0.0f, -90.0f));
+    ceiling->setShadowCasting(false);
+    surface_->addCustomItem(ceiling);
+    ceilingItem = ceiling;
 }
 
 CameraView ChartView3D::camera() const {

@@ -21,6 +21,7 @@
 class Q3DSurface;
 class Q3DBars;
 class QAbstract3DGraph;
+class QCustom3DItem;
 class QCustom3DLabel;
 class QLabel;
 class QStackedWidget;
@@ -48,6 +49,7 @@ public:
     CameraView camera() const;
     // The projection planes shown (floor first), for tests.
     const std::vector<QSurface3DSeries *> &projectionSeries() const { return projections; }
+    QCustom3DItem *ceiling() const { return ceilingItem; }
 
     QWidget *widget() override { return this; }
     bool canDraw() const override { return glUsable; }
@@ -77,6 +79,8 @@ private:
     void applyLooks();
     // The floor and ceiling pictures of the surface, made again for the current looks.
     void projectSurface(const SurfaceLook &look);
+    void projectOnFloor(const SurfaceLook &look);
+    void projectOnCeiling(const SurfaceLook &look);
 
     ChartSpec3D spec_;
     std::optional<ChartGrid3D> grid_;
@@ -92,6 +96,7 @@ private:
     bool graphBars = false;
     QSurface3DSeries *surfaceSeries = nullptr;
     std::vector<QSurface3DSeries *> projections;
+    QCustom3DItem *ceilingItem = nullptr;
     // The vertical range of the surface's values.
     float low = 0, high = 1;
     std::map<std::pair<int, int>, QCustom3DLabel *> labels_;

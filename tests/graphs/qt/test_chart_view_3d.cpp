@@ -7,6 +7,7 @@
 #include <Q3DCamera>
 #include <Q3DScene>
 #include <Q3DSurface>
+#include <QCustom3DItem>
 #include <QDir>
 #include <QGuiApplication>
 #include <QLabel>
@@ -87,6 +88,8 @@ private slots:
     void contoursDarkenTheSurface();
     void labelsAttachToGridPoints();
     void theProjectionLiesUnderTheSurface();
+    void theCeilingLiesOverTheFloor();
+    void aClickPicksThroughTheProjections();
     void screenshotsOfTheLooks();
     void theCameraFollowsTheViewAndReadsBack();
     void theRightButtonAsksForThePopUp();
@@ -230,6 +233,82 @@ void ChartView3DTest::theProjectionLiesUnderTheSurface() {
     view.apply(Look(false, false, false, true, false));
     QVERIFY(view.projectionSeries().empty());
     QCOMPARE(surface->seriesList().size(), 1);
+}
+
+void ChartView3DTest::theCeilingLiesOverTheFloor() {
+    if (Offscreen()) QSKIP("3-D needs OpenGL (run under Xvfb)");
+    // A grid twice as wide as deep, so that a sheet turned or stretched the wrong way shows.
+    ChartGrid3D grid = ChartGrid3D::regular(41, 11, kHoleValue, 0.1, 0.2, -2.0, -1.0);
+    for (int iz = 0; iz < 11; ++iz)
+        for (int ix = 0; ix < 41; ++ix) {
+            const double x = grid.x_at(ix), z = grid.z_at(iz);
+            grid.set_value(ix, iz, x * x + 3 * z + 0.5 * x);
+        }
+    // Flat zones, unlit: the sheets show their pictures' own colours.
+    ChartSpec3D spec = Look(false, false, false, true, false, false, true);
+    spec.colors = {{0x0201, "DataAreaBackgroundColor", TColor(255, 255, 255)},
+                   {0x020D, "SurfaceBottomColor", TColor(220, 220, 255)},
+                   {0x020E, "SurfaceTopColor", TColor(255, 255, 200)}};
+    spec.xRotation = 90;
+    spec.zRotation = 0;
+    ChartView3D view;
+    view.resize(600, 500);
+    view.setData(grid);
+    view.apply(spec);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    auto *surface = static_cast<Q3DSurface *>(view.graph());
+    surface->setOrthoProjection(true);
+    QVERIFY(view.ceiling() != nullptr);
+    QCOMPARE(view.projectionSeries().size(), std::size_t(1));
+    surface->seriesList().front()->setVisible(false);
+    view.ceiling()->setVisible(false);
+    const QImage floor = surface->renderToImage(0, QSize(400, 400));
+    view.ceiling()->setVisible(true);
+    view.projectionSeries().front()->setVisible(false);
+    const QImage ceiling = surface->renderToImage(0, QSize(400, 400));
+    // A line pixel is darker than the light colours either sheet shows elsewhere.
+    const auto dark = [](const QImage &image, int x, int y) {
+        return qGray(image.pixel(x, y)) < 150;
+    };
+    int lines = 0, matched = 0;
+    for (int y = 2; y < 398; ++y)
+        for (int x = 2; x < 398; ++x) {
+            if (!dark(ceiling, x, y)) continue;
+            ++lines;
+            bool near = false;
+            for (int dy = -2; dy <= 2 && !near; ++dy)
+                for (int dx = -2; dx <= 2 && !near; ++dx) near = dark(floor, x + dx, y + dy);
+            matched += near;
+        }
+    QVERIFY2(lines > 200, qPrintable(QString::number(lines)));
+    // Aligned sheets share well over twice the lines that a sheet turned the wrong way does.
+    QVERIFY2(matched > lines * 45 / 100,
+             qPrintable(QStringLiteral("%1 of %2").arg(matched).arg(lines)));
+}
+
+void ChartView3DTest::aClickPicksThroughTheProjections() {
+    if (Offscreen()) QSKIP("3-D needs OpenGL (run under Xvfb)");
+    for (const bool projection : {false, true}) {
+        ChartView3D view;
+        view.resize(600, 500);
+        ChartSpec3D spec = Look(true, true, false, false, false, false, projection);
+        spec.xRotation = 60;
+        view.setData(Saddle());
+        view.apply(spec);
+        view.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        QSignalSpy picks(&view, &ChartView3D::picked);
+        QWindow *chart = view.graph();
+        // A real click of the mouse on the surface, off the hole in its middle.
+        const QPoint at(chart->width() / 2 + 70, chart->height() / 2 + 40);
+        QTest::mouseClick(chart, Qt::LeftButton, Qt::NoModifier, at);
+        QVERIFY2(picks.wait(2000) || !picks.isEmpty(),
+                 projection ? "through the ceiling" : "on the plain surface");
+        QCOMPARE(picks.size(), 1);
+        // The ceiling stepped aside for the pick and is back.
+        if (projection) QTRY_VERIFY(view.ceiling()->isVisible());
+    }
 }
 
 void ChartView3DTest::screenshotsOfTheLooks() {
