@@ -198,6 +198,7 @@ void DocumentGraphs3DTest::aTurnedViewSurvivesAGraphFile() {
     QCOMPARE(back.xRotation, turned.xRotation);
     QCOMPARE(back.yRotation, turned.yRotation);
     QCOMPARE(back.zoom, turned.zoom);
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
 void DocumentGraphs3DTest::aTurnedViewGoesIntoTheDocumentsGraph() {
