@@ -2,7 +2,8 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 // The graph window's share of a graph: a 2,000-point plot and a 100 x 100 surface built on the
 // one thread with no pump, with the throttled pump (one per 20 ms) and with a pump at every
-// report; and the 2,000-point plot drawn on the chart and rendered into an image.
+// report; and both drawn on their charts and rendered into an image (the surface only on a
+// display with OpenGL: run under xvfb-run with QT_QPA_PLATFORM=xcb).
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -10,6 +11,7 @@
 #include <string>
 
 #include "chart_view_2d.h"
+#include "chart_view_3d.h"
 #include "graph_builder.h"
 #include "graph_compute_host.h"
 #include "graph_progress_dialog.h"
@@ -25,7 +27,7 @@ QApplication &application() {
     static char name[] = "bench_graph_window";
     static char *argv[] = {name, nullptr};
     static std::unique_ptr<QApplication> app = [] {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
         return std::make_unique<QApplication>(argc, argv);
     }();
     return *app;
@@ -89,5 +91,27 @@ void BM_plot_2000_draw(benchmark::State &state) {
     }
 }
 BENCHMARK(BM_plot_2000_draw)->Unit(benchmark::kMillisecond);
+
+// The surface with shading, zones, contours and its floor projection.
+void BM_surface_100x100_draw(benchmark::State &state) {
+    application();
+    quindar::Parser parser("", "");
+    quindar::GraphData graph = make_graph(parser, 100, 100);
+    graph.GraphType3D = 101111;  // projection, zones, contours, shading, mesh
+    quindar::GraphBuilder builder(parser, graph);
+    builder.Build();
+    quindar::ChartView3D view;
+    view.resize(800, 600);
+    if (!view.canDraw()) {
+        state.SkipWithError("no OpenGL on this display");
+        return;
+    }
+    for (auto _ : state) {
+        view.apply(quindar::chart_spec_3d(graph));
+        view.setData(*builder.Data3D);
+        benchmark::DoNotOptimize(view.renderImage(QSize(800, 600)).width());
+    }
+}
+BENCHMARK(BM_surface_100x100_draw)->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -7,6 +7,9 @@
 namespace quindar {
 namespace {
 
+// The zoom that shows the whole chart, axis labels included, at scale 1.
+constexpr float kZoomPerScale = 80.0f;
+
 float wrap(float degrees, float low) {
     float wrapped = std::fmod(degrees - low, 360.0f);
     if (wrapped < 0) wrapped += 360.0f;
@@ -16,12 +19,12 @@ float wrap(float degrees, float low) {
 }  // namespace
 
 CameraView camera_from_view(const GraphView3D &view) {
-    return CameraView{wrap(view.zRotation, -180.0f), view.xRotation, 100.0f * view.scale,
+    return CameraView{wrap(view.zRotation, -180.0f), view.xRotation, kZoomPerScale * view.scale,
                       view.xTranslate, view.yTranslate};
 }
 
 GraphView3D view_from_camera(const CameraView &camera) {
-    return GraphView3D{camera.yRotation, wrap(camera.xRotation, 0.0f), camera.zoom / 100.0f,
+    return GraphView3D{camera.yRotation, wrap(camera.xRotation, 0.0f), camera.zoom / kZoomPerScale,
                        camera.targetX, camera.targetY};
 }
 

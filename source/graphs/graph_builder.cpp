@@ -429,14 +429,15 @@ bool GraphBuilder::ComputeValue(const char *text, complex &value) {
 }
 
 complex GraphBuilder::GetEqnDataSetValueY(complex x, complex z) {
-    const std::size_t open = Function3D.find('[');
+    // The function may be written with square or round brackets.
+    const std::size_t open = Function3D.find_first_of("[(");
     const std::string name = Function3D.substr(0, open);
     const int declared = parser.find_function(Function3D.c_str());
     if (declared < 0 && !parser.is_internal_function(name.c_str()) &&
         !parser.is_library_function(name.c_str()))
         return {};
     if (open == std::string::npos) return {};
-    const std::size_t close = Function3D.find(']', open);
+    const std::size_t close = Function3D.find(Function3D[open] == '[' ? ']' : ')', open);
     if (close == std::string::npos) return {};
     std::string call = name + "[";
     std::istringstream arguments(Function3D.substr(open + 1, close - open - 1));
@@ -471,6 +472,22 @@ bool GraphBuilder::GetPntDataSetValueY(int set, int point, complex &value) {
         return false;
     const char *text = data->GetYDataPoint(point);
     return text != nullptr && ComputeValue(text, value);
+}
+
+bool GraphBuilder::LabelValues3D(const ChartGrid3D &grid, int ix, int iz, complex &x, complex &y,
+                                 complex &z) {
+    if (NumFunctions == 0 && NumDataSets == 0) return false;
+    if (NumFunctions > 0 && XAxisVarWork && ZAxisVarWork) {
+        x = {XAxisVarWork->low_limit.real + ix * XAxisVarWork->increment.real, 0};
+        z = {ZAxisVarWork->low_limit.real + iz * ZAxisVarWork->increment.real, 0};
+        y = GetEqnDataSetValueY(x, z);
+        return true;
+    }
+    x = {grid.x_at(ix), 0};
+    z = {grid.z_at(iz), 0};
+    y = {};
+    GetPntDataSetValueY(iz, ix, y);
+    return true;
 }
 
 }  // namespace quindar

@@ -73,6 +73,11 @@ public:
     complex GetEqnDataSetValueY(complex x, complex z);
     // The Y text of point `point` of data set `set`, computed; false when there is none.
     bool GetPntDataSetValueY(int set, int point, complex &value);
+    // What the label of grid point (ix, iz) of the last 3-D build shows, from the definition:
+    // with functions and both axis variables, x and z from the variables' ranges and y the
+    // function computed afresh; otherwise the grid's positions and the Y text of point ix of
+    // data set iz. False when the graph has neither functions nor data sets.
+    bool LabelValues3D(const ChartGrid3D &grid, int ix, int iz, complex &x, complex &y, complex &z);
 
 private:
     bool InitGraph();

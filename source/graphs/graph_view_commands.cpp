@@ -6,13 +6,9 @@
 #include "graph_types.h"
 
 namespace quindar {
-namespace {
-
 int shown_margin(const ChartMargin &margin) {
     return margin.automatic ? kAutomaticMargin : margin.value;
 }
-
-}  // namespace
 
 int toggle_log_axis(GraphData &graph, bool xAxis) {
     const GraphType2DInfo *type = find_graph_type_2d(graph.GraphType2D);

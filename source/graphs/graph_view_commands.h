@@ -15,6 +15,9 @@ inline constexpr int kMarginStep = 25;
 // The margin a chart takes when the graph leaves it automatic.
 inline constexpr int kAutomaticMargin = 20;
 
+// A margin as the chart shows it: the automatic one is kAutomaticMargin.
+int shown_margin(const ChartMargin &margin);
+
 // Toggles the logarithmic X (or Y) axis; 0 when done, or the message that refuses it
 // (25106, 25107) with the graph unchanged.
 int toggle_log_axis(GraphData &graph, bool xAxis);

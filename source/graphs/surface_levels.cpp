@@ -13,15 +13,6 @@ constexpr double kRingHalfWidth = 0.004;
 constexpr double kEdge = 1e-4;
 const TColor kRingColor{0, 0, 0};
 
-TColor base_color(const SurfaceLook &look, double t) {
-    if (look.zone) {
-        const int band = std::min(kSurfaceLevels - 1, static_cast<int>(t * kSurfaceLevels));
-        return blend(look.bottom, look.top, band / double(kSurfaceLevels - 1));
-    }
-    if (look.shade) return blend(look.bottom, look.top, t);
-    return look.plain;
-}
-
 bool in_ring(double t) {
     for (int level = 1; level < kSurfaceLevels; ++level)
         if (std::abs(t - level / double(kSurfaceLevels)) <= kRingHalfWidth / 2 + 1e-12) return true;
@@ -29,6 +20,15 @@ bool in_ring(double t) {
 }
 
 }  // namespace
+
+TColor surface_color(const SurfaceLook &look, double t) {
+    if (look.zone) {
+        const int band = std::min(kSurfaceLevels - 1, static_cast<int>(t * kSurfaceLevels));
+        return blend(look.bottom, look.top, band / double(kSurfaceLevels - 1));
+    }
+    if (look.shade) return blend(look.bottom, look.top, t);
+    return look.plain;
+}
 
 TColor blend(TColor a, TColor b, double t) {
     auto mix = [t](int x, int y) {
@@ -56,7 +56,7 @@ std::vector<GradientStop> surface_gradient(const SurfaceLook &look) {
     positions.erase(std::unique(positions.begin(), positions.end()), positions.end());
     std::vector<GradientStop> stops;
     for (double t : positions)
-        stops.push_back({t, look.contour && in_ring(t) ? kRingColor : base_color(look, t)});
+        stops.push_back({t, look.contour && in_ring(t) ? kRingColor : surface_color(look, t)});
     return stops;
 }
 

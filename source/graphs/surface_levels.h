@@ -30,6 +30,9 @@ struct GradientStop {
 // The stops in increasing position, first at 0 and last at 1.
 std::vector<GradientStop> surface_gradient(const SurfaceLook &look);
 
+// The surface's colour at t in 0..1 of the vertical range, contour rings left out.
+TColor surface_color(const SurfaceLook &look, double t);
+
 // The colour between a and b at t in 0..1.
 TColor blend(TColor a, TColor b, double t);
 

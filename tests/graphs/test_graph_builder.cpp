@@ -433,6 +433,51 @@ TEST_F(GraphBuild, PointValuesForLabelsComeFromTheDefinition) {
     EXPECT_FALSE(builder->GetPntDataSetValueY(1, 0, value)) << "no second set";
 }
 
+TEST_F(GraphBuild, ThreeDimensionalLabelsComputeTheFunctionAtTheGridPoint) {
+    // Round brackets as well as square ones; the grid may have been smoothed since.
+    Run("r(x,z) = x*z + x");
+    AddFunction("r(x,z)");
+    SetX("x", 0, 2, 5);
+    SetZ("z", 0, 3, 4);
+    ASSERT_TRUE(Build());
+    ChartGrid3D grid = *builder->Data3D;
+    grid.set_value(3, 2, -99.0);
+    struct Point {
+        int ix, iz;
+        double x, y, z;
+    };
+    const Point points[] = {{3, 2, 1.5, 4.5, 2.0}, {0, 0, 0.0, 0.0, 0.0}, {4, 3, 2.0, 8.0, 3.0}};
+    for (const Point &p : points) {
+        complex x, y, z;
+        ASSERT_TRUE(builder->LabelValues3D(grid, p.ix, p.iz, x, y, z));
+        EXPECT_EQ(x.real, p.x) << p.ix << "," << p.iz;
+        EXPECT_EQ(y.real, p.y) << p.ix << "," << p.iz;
+        EXPECT_EQ(z.real, p.z) << p.ix << "," << p.iz;
+    }
+}
+
+TEST_F(GraphBuild, ThreeDimensionalLabelsOfDataSetsReadTheirYTexts) {
+    // Each set is one row of the grid at its Z; a label computes the set's Y text afresh.
+    AddDataSet("a", {"1", "2", "3"}, {"10", "20", "30"}, "5");
+    AddDataSet("b", {"1", "2", "3"}, {"1+1", "2*2", "6"}, "7");
+    ASSERT_EQ(graph.GetGraphType(), kGraph3D);
+    Build();
+    ASSERT_TRUE(builder->Data3D);
+    const ChartGrid3D &grid = *builder->Data3D;
+    struct Point {
+        int ix, iz;
+        double y;
+    };
+    const Point points[] = {{0, 0, 10.0}, {2, 0, 30.0}, {1, 1, 4.0}, {0, 1, 2.0}};
+    for (const Point &p : points) {
+        complex x, y, z;
+        ASSERT_TRUE(builder->LabelValues3D(grid, p.ix, p.iz, x, y, z));
+        EXPECT_EQ(x.real, grid.x_at(p.ix)) << p.ix << "," << p.iz;
+        EXPECT_EQ(z.real, grid.z_at(p.iz)) << p.ix << "," << p.iz;
+        EXPECT_EQ(y.real, p.y) << p.ix << "," << p.iz;
+    }
+}
+
 TEST(GraphWindowCaption, EditorAndGraphInUpperCase) {
     EXPECT_EQ(graph_window_caption("notes.qnd", "Sales 2"), "NOTES.QND : SALES 2");
     EXPECT_EQ(graph_window_caption("", "Sales"), "Graph");

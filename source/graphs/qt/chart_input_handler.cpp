@@ -30,6 +30,7 @@ void ChartInputHandler::mousePressEvent(QMouseEvent *event, const QPoint &mouseP
         Q3DInputHandler::mousePressEvent(&turn, mousePos);
         return;
     }
+    if (event->button() == Qt::LeftButton) emit pickRequested(mousePos);
     Q3DInputHandler::mousePressEvent(event, mousePos);
 }
 

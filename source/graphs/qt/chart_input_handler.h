@@ -20,6 +20,8 @@ public:
 signals:
     // The right button at this position of the chart's window.
     void popupRequested(QPoint position);
+    // A plain left click: the chart picks at this position on a later frame.
+    void pickRequested(QPoint position);
 
 private:
     bool turning = false;

@@ -45,6 +45,16 @@ void show_title(QLabel &label, const std::string &text, const std::string &font,
     label.setVisible(!text.empty());
 }
 
+void paint_frame_label(QPainter &painter, const QLabel &label) {
+    if (label.isHidden() || label.text().isEmpty()) return;
+    painter.fillRect(label.geometry(), label.palette().color(QPalette::Window));
+    painter.setPen(label.palette().color(QPalette::WindowText));
+    QFont font = label.font();
+    font.setPixelSize(QFontInfo(label.font()).pixelSize());
+    painter.setFont(font);
+    painter.drawText(label.geometry(), Qt::AlignCenter, label.text());
+}
+
 void paint_chart_frame(QPainter &painter, const QRect &target, QWidget &frame, const QLabel &header,
                        const QLabel &footer, const std::function<void(QPainter &)> &paintChart) {
     if (frame.size().isEmpty()) frame.resize(target.size());
@@ -57,15 +67,7 @@ void paint_chart_frame(QPainter &painter, const QRect &target, QWidget &frame, c
                       (target.height() - frame.height() * scale) / 2);
     painter.scale(scale, scale);
     painter.fillRect(frame.rect(), frame.palette().color(QPalette::Window));
-    for (const QLabel *title : {&header, &footer}) {
-        if (title->isHidden() || title->text().isEmpty()) continue;
-        painter.fillRect(title->geometry(), title->palette().color(QPalette::Window));
-        painter.setPen(title->palette().color(QPalette::WindowText));
-        QFont font = title->font();
-        font.setPixelSize(QFontInfo(title->font()).pixelSize());
-        painter.setFont(font);
-        painter.drawText(title->geometry(), Qt::AlignCenter, title->text());
-    }
+    for (const QLabel *title : {&header, &footer}) paint_frame_label(painter, *title);
     paintChart(painter);
     painter.restore();
 }

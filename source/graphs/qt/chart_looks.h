@@ -31,6 +31,9 @@ QFont font_from_text(const std::string &text, const QFont &fallback);
 // A header or footer label: text, font and colours; hidden when the text is empty.
 void show_title(QLabel &label, const std::string &text, const std::string &font,
                 const QColor &background, const QColor &foreground);
+// A title, legend or other text label of a frame, as the frame shows it: its background, then
+// its text (sized in pixels, since a printer's points grow with its resolution).
+void paint_frame_label(QPainter &painter, const QLabel &label);
 // A chart frame (header, chart, footer) scaled into target: the background, the titles as text
 // (sized in pixels, since a printer's points grow with its resolution), then the chart itself.
 void paint_chart_frame(QPainter &painter, const QRect &target, QWidget &frame, const QLabel &header,

@@ -179,6 +179,7 @@ void ChartView2D::rebuild() {
     for (const auto &[key, label] : labels_) kept.emplace_back(key, label.text);
     labels_.clear();
     runs_.clear();
+    pieCaptions_.clear();
 
     const int type = spec_.storedType;
     const bool polar = type == kTypePolar || type == kTypeRadar || type == kTypeRadarFilled;
@@ -370,6 +371,9 @@ void ChartView2D::drawPie() {
         pie->setPieSize(std::min(0.9, 0.9 * 1.6 / pies));
         pie->setName(setLabel(set));
         chart_->addSeries(pie);
+        auto *caption = new QGraphicsSimpleTextItem(setLabel(set), chart_);
+        caption->setBrush(chart_color(spec_.colors, 0x0203, Qt::black));  // graph foreground
+        pieCaptions_.push_back(caption);
         // The legend lists the slices once, those of the first pie.
         if (set > 0)
             for (QLegendMarker *legend : chart_->legend()->markers(pie)) legend->setVisible(false);
@@ -651,6 +655,18 @@ void ChartView2D::removeAllLabels() {
 }
 
 void ChartView2D::placeLabels() {
+    // Each pie's name centred under it; a pie's size is a share of the plot area's smaller side.
+    const QRectF area = chart_->plotArea();
+    const QList<QAbstractSeries *> all = chart_->series();
+    for (std::size_t i = 0; i < pieCaptions_.size() && i < std::size_t(all.size()); ++i) {
+        const auto *pie = qobject_cast<QPieSeries *>(all[qsizetype(i)]);
+        if (pie == nullptr) continue;
+        const QRectF box = pieCaptions_[i]->boundingRect();
+        const double radius = pie->pieSize() * std::min(area.width(), area.height()) / 2;
+        pieCaptions_[i]->setPos(
+            area.left() + area.width() * pie->horizontalPosition() - box.width() / 2,
+            area.top() + area.height() * pie->verticalPosition() + radius + 6);
+    }
     for (auto &[key, label] : labels_) {
         const std::optional<QPointF> value = chartPoint(key.first, key.second);
         QAbstractSeries *series = seriesAt(key.first, key.second);

@@ -14,8 +14,8 @@
 #include <vector>
 
 #include "chart_data.h"
-#include "chart_runs.h"
 #include "chart_decisions.h"
+#include "chart_runs.h"
 #include "chart_view.h"
 
 class QChart;
@@ -25,6 +25,8 @@ class QAbstractAxis;
 class QLineSeries;
 class QGraphicsItem;
 class QLabel;
+
+class QGraphicsSimpleTextItem;
 
 namespace quindar {
 
@@ -53,6 +55,8 @@ public:
     bool removeLabel(int set, int point) override;
     bool hasLabel(int set, int point) const override;
     int labelCount() const override { return static_cast<int>(labels_.size()); }
+    // The captions under the pies of a Pie chart, set by set; empty for other types.
+    const std::vector<QGraphicsSimpleTextItem *> &pieCaptions() const { return pieCaptions_; }
     void removeAllLabels() override;
     QImage renderImage(QSize size) override;
     void print(QPainter &painter, const QRect &target) override;
@@ -108,6 +112,8 @@ private:
     QChart *chart_ = nullptr;
     std::vector<DrawnRun> runs_;
     std::map<std::pair<int, int>, PointLabel> labels_;
+    // The name of each pie, under it (a pie chart's legend lists the slices).
+    std::vector<QGraphicsSimpleTextItem *> pieCaptions_;
 };
 
 }  // namespace quindar

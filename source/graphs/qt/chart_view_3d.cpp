@@ -5,12 +5,14 @@
 #include <Q3DBars>
 #include <Q3DSurface>
 #include <QBar3DSeries>
+#include <QCustom3DItem>
 #include <QCustom3DLabel>
 #include <QLabel>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QStackedWidget>
 #include <QSurface3DSeries>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <cmath>
 #include <limits>
@@ -19,6 +21,7 @@
 #include "chart_input_handler.h"
 #include "chart_looks.h"
 #include "surface_levels.h"
+#include "surface_projection.h"
 
 namespace quindar {
 namespace {
@@ -27,7 +30,28 @@ namespace {
 constexpr int kBackground = 0x0200, kForeground = 0x0204, kDataAreaBackground = 0x0201,
               kFooterBackground = 0x0202, kFooterForeground = 0x0203, kGraphBackground = 0x0205,
               kGraphForeground = 0x0206, kHeaderBackground = 0x0207, kHeaderForeground = 0x0208,
-              kMeshTop = 0x020C, kSurfaceBottom = 0x020D, kSurfaceTop = 0x020E;
+              kLegendBackground = 0x0209, kLegendForeground = 0x020A, kMeshTop = 0x020C,
+              kSurfaceBottom = 0x020D, kSurfaceTop = 0x020E;
+// Room between two names of the legend.
+const QString kLegendGap = QStringLiteral("     ");
+
+// The size of a projection picture: fine enough for smooth level lines, coarse enough that a
+// line one texel wide still shows on screen.
+constexpr int kProjectionSize = 256;
+constexpr float kLabelScale = 1.5f;
+// Longer than the chart takes to answer a pick on a later frame, even on a slow display.
+constexpr int kPickMilliseconds = 1000;
+// The height of a label over its point, as a share of the vertical range.
+constexpr float kLabelLift = 0.04f;
+
+QImage projection_image(const ProjectionRaster &raster) {
+    QImage image(raster.width, raster.height, QImage::Format_ARGB32);
+    for (int y = 0; y < raster.height; ++y) {
+        auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
+        for (int x = 0; x < raster.width; ++x) line[x] = raster.at(x, y);
+    }
+    return image;
+}
 
 }  // namespace
 
@@ -36,11 +60,16 @@ ChartView3D::ChartView3D(QWidget *parent)
       header_(new QLabel(this)),
       footer_(new QLabel(this)),
       notice_(new QLabel(noOpenGlText(), this)),
+      legend_(new QLabel(this)),
       stack_(new QStackedWidget(this)) {
     setAccessibleName(tr("3-D graph"));
     header_->setAccessibleName(tr("Graph header"));
     footer_->setAccessibleName(tr("Graph footer"));
     notice_->setAccessibleName(tr("Graph notice"));
+    legend_->setAccessibleName(tr("Graph legend"));
+    legend_->setAlignment(Qt::AlignCenter);
+    legend_->setAutoFillBackground(true);
+    legend_->setContentsMargins(8, 4, 8, 4);
     header_->setAlignment(Qt::AlignCenter);
     footer_->setAlignment(Qt::AlignCenter);
     notice_->setAlignment(Qt::AlignCenter);
@@ -49,10 +78,12 @@ ChartView3D::ChartView3D(QWidget *parent)
     layout->setSpacing(0);
     layout->addWidget(header_);
     layout->addWidget(stack_, 1);
+    layout->addWidget(legend_);
     layout->addWidget(footer_);
     stack_->addWidget(notice_);
     header_->hide();
     footer_->hide();
+    legend_->hide();
     setAutoFillBackground(true);
     makeGraph(false);
 }
@@ -78,6 +109,9 @@ bool ChartView3D::makeGraph(bool bars) {
         container_ = nullptr;
         surface_ = nullptr;
         bars_ = nullptr;
+        surfaceSeries = nullptr;
+        projections.clear();
+        ceilingItem = nullptr;
     }
     graphBars = bars;
     QAbstract3DGraph *made = nullptr;
@@ -92,6 +126,15 @@ bool ChartView3D::makeGraph(bool bars) {
         made->setActiveInputHandler(handler);
         connect(handler, &ChartInputHandler::popupRequested, this, [this](QPoint at) {
             emit popupRequested(container_ != nullptr ? container_->mapTo(this, at) : at);
+        });
+        // The ceiling would take the click from the surface under it: it steps aside while
+        // the chart picks, and comes back with the answer, or after a while when none comes.
+        connect(handler, &ChartInputHandler::pickRequested, this, [this] {
+            if (ceilingItem == nullptr) return;
+            ceilingItem->setVisible(false);
+            QTimer::singleShot(kPickMilliseconds, this, [this] {
+                if (ceilingItem != nullptr) ceilingItem->setVisible(true);
+            });
         });
     }
     container_ = QWidget::createWindowContainer(made, this);
@@ -118,6 +161,16 @@ void ChartView3D::rebuild() {
     show_title(*footer_, spec_.footer, spec_.footerFont,
                chart_color(spec_.colors, kFooterBackground, Qt::white),
                chart_color(spec_.colors, kFooterForeground, Qt::black));
+    QStringList names;
+    for (const std::string &name : spec_.dataLabels) names << QString::fromStdString(name);
+    legend_->setText(names.join(kLegendGap));
+    QPalette legendColours = legend_->palette();
+    legendColours.setColor(QPalette::Window,
+                           chart_color(spec_.colors, kLegendBackground, Qt::white));
+    legendColours.setColor(QPalette::WindowText,
+                           chart_color(spec_.colors, kLegendForeground, Qt::black));
+    legend_->setPalette(legendColours);
+    legend_->setVisible(!names.isEmpty());
     QPalette palette = this->palette();
     palette.setColor(QPalette::Window, chart_color(spec_.colors, kBackground, Qt::white));
     palette.setColor(QPalette::WindowText, chart_color(spec_.colors, kForeground, Qt::black));
@@ -135,11 +188,14 @@ void ChartView3D::fillSurface() {
         surface_->removeSeries(old);
         delete old;
     }
+    surfaceSeries = nullptr;
+    projections.clear();
     if (!grid_) return;
     const ChartGrid3D &grid = *grid_;
     auto *array = new QSurfaceDataArray;
     array->reserve(grid.nz());
-    float low = std::numeric_limits<float>::max(), high = std::numeric_limits<float>::lowest();
+    low = std::numeric_limits<float>::max();
+    high = std::numeric_limits<float>::lowest();
     for (int iz = 0; iz < grid.nz(); ++iz) {
         auto *row = new QSurfaceDataRow(grid.nx());
         for (int ix = 0; ix < grid.nx(); ++ix) {
@@ -160,14 +216,19 @@ void ChartView3D::fillSurface() {
     // The chart answers (row, column), that is (iz, ix); the selection is let go at once, so
     // a second click on the same point answers again.
     connect(series, &QSurface3DSeries::selectedPointChanged, this, [this, series](QPoint at) {
+        // The pick has been answered: a ceiling that stepped aside comes back.
+        if (ceilingItem != nullptr) ceilingItem->setVisible(true);
         if (at == QSurface3DSeries::invalidSelectionPosition()) return;
         series->setSelectedPoint(QSurface3DSeries::invalidSelectionPosition());
         emit picked(at.y(), at.x());
     });
     series->setItemLabelFormat(QStringLiteral("(@xLabel , @yLabel , @zLabel)"));
     surface_->addSeries(series);
+    surfaceSeries = series;
     // Gradient stops spread over the axis range: it is the data's own.
-    if (low <= high) surface_->axisY()->setRange(low, high > low ? high : low + 1);
+    if (low > high) low = 0, high = 1;
+    if (high <= low) high = low + 1;
+    surface_->axisY()->setRange(low, high);
 }
 
 void ChartView3D::fillBars() {
@@ -208,8 +269,9 @@ void ChartView3D::applyLooks() {
     theme->setGridLineColor(chart_color(spec_.colors, kForeground, Qt::gray));
     theme->setGridEnabled(spec_.gridLines);
     theme->setBackgroundEnabled(true);
-    theme->setAmbientLightStrength(spec_.shade ? 0.25f : 1.0f);
-    theme->setLightStrength(spec_.shade ? 5.0f : 0.0f);
+    // Enough ambient light that a face turned from the lamp still shows its colour.
+    theme->setAmbientLightStrength(spec_.shade ? 0.55f : 1.0f);
+    theme->setLightStrength(spec_.shade ? 4.0f : 0.0f);
 
     SurfaceLook look{spec_.shade,       spec_.zone,        spec_.contour,
                      TColor(0, 0, 255), TColor(255, 0, 0), TColor(192, 192, 192)};
@@ -237,7 +299,7 @@ void ChartView3D::applyLooks() {
         QSurface3DSeries::DrawFlags flags;
         if (surfaceDrawn) flags |= QSurface3DSeries::DrawSurface;
         if (meshDrawn) flags |= QSurface3DSeries::DrawWireframe;
-        for (QSurface3DSeries *series : surface_->seriesList()) {
+        if (QSurface3DSeries *series = surfaceSeries) {
             series->setDrawMode(flags);
             series->setWireframeColor(mesh);
             series->setFlatShadingEnabled(!spec_.shade);
@@ -249,6 +311,7 @@ void ChartView3D::applyLooks() {
                 series->setColorStyle(Q3DTheme::ColorStyleRangeGradient);
             }
         }
+        projectSurface(look);
     }
     if (bars_ != nullptr) {
         for (QBar3DSeries *series : bars_->seriesList()) {
@@ -264,6 +327,67 @@ void ChartView3D::applyLooks() {
     camera->setYRotation(view.yRotation);
     camera->setZoomLevel(view.zoom);
     camera->setTarget(QVector3D(view.targetX, view.targetY, 0.0f));
+}
+
+void ChartView3D::projectSurface(const SurfaceLook &look) {
+    for (QSurface3DSeries *old : projections) {
+        surface_->removeSeries(old);
+        delete old;
+    }
+    projections.clear();
+    if (ceilingItem != nullptr) surface_->removeCustomItem(ceilingItem);
+    ceilingItem = nullptr;
+    const ProjectionPlanes planes = projection_planes(spec_);
+    if (!grid_ || surfaceSeries == nullptr || grid_->nx() < 2 || grid_->nz() < 2) return;
+    if (planes.floor) projectOnFloor(look);
+    if (planes.ceiling) projectOnCeiling(look);
+}
+
+void ChartView3D::projectOnFloor(const SurfaceLook &look) {
+    const ChartGrid3D &grid = *grid_;
+    // A flat sheet of two by two points over the grid's extent carries the picture.
+    auto *array = new QSurfaceDataArray;
+    for (const int iz : {0, grid.nz() - 1}) {
+        auto *row = new QSurfaceDataRow(2);
+        (*row)[0].setPosition(QVector3D(float(grid.x_at(0)), low, float(grid.z_at(iz))));
+        (*row)[1].setPosition(
+            QVector3D(float(grid.x_at(grid.nx() - 1)), low, float(grid.z_at(iz))));
+        *array << row;
+    }
+    auto *plane = new QSurface3DSeries;
+    plane->dataProxy()->resetArray(array);
+    plane->setDrawMode(QSurface3DSeries::DrawSurface);
+    plane->setFlatShadingEnabled(true);
+    // The picture's first row is the lowest Z; the sheet's texture runs the other way.
+    plane->setTexture(projection_image(projection_raster(grid, look, low, high, kProjectionSize,
+                                                         kProjectionSize, false))
+                          .mirrored(false, true));
+    surface_->addSeries(plane);
+    projections.push_back(plane);
+}
+
+void ChartView3D::projectOnCeiling(const SurfaceLook &look) {
+    const ChartGrid3D &grid = *grid_;
+    // The level lines alone on a see-through sheet at the top of the box, so that the surface
+    // stays in sight. The chart's plane mesh spans -1..1 upright: it is laid flat and
+    // stretched over the data's extent (its scale counts in data units), its texture turned
+    // as the floor's.
+    auto *ceiling = new QCustom3DItem;
+    ceiling->setMeshFile(QStringLiteral(":/defaultMeshes/plane"));
+    ceiling->setTextureImage(
+        projection_image(
+            projection_raster(grid, look, low, high, kProjectionSize, kProjectionSize, true))
+            .mirrored(false, true));
+    ceiling->setPositionAbsolute(true);
+    ceiling->setPosition(QVector3D(0.0f, 1.0f, 0.0f));
+    ceiling->setScalingAbsolute(false);
+    const float halfX = float(std::abs(grid.x_at(grid.nx() - 1) - grid.x_at(0)) / 2);
+    const float halfZ = float(std::abs(grid.z_at(grid.nz() - 1) - grid.z_at(0)) / 2);
+    ceiling->setScaling(QVector3D(halfX, halfZ, 1.0f));
+    ceiling->setRotation(QQuaternion::fromAxisAndAngle(1.0f, 0.0f, 0.0f, -90.0f));
+    ceiling->setShadowCasting(false);
+    surface_->addCustomItem(ceiling);
+    ceilingItem = ceiling;
 }
 
 CameraView ChartView3D::camera() const {
@@ -298,8 +422,13 @@ bool ChartView3D::addLabel(int ix, int iz, const QString &text) {
     label->setFont(font);
     label->setBackgroundColor(QColor(255, 255, 128));
     label->setFacingCamera(true);
-    label->setPosition(
-        QVector3D(float(grid_->x_at(ix)), float(grid_->value(ix, iz)), float(grid_->z_at(iz))));
+    label->setTextColor(Qt::black);
+    // The chart shrinks labels to a tenth unless told: full size reads like a 2-D label.
+    label->setScaling(QVector3D(kLabelScale, kLabelScale, kLabelScale));
+    // A little above its point, so that the surface around does not bury it.
+    const float lift = (high - low) * kLabelLift;
+    label->setPosition(QVector3D(float(grid_->x_at(ix)), float(grid_->value(ix, iz)) + lift,
+                                 float(grid_->z_at(iz))));
     graph()->addCustomItem(label);
     labels_[{ix, iz}] = label;
     return true;
@@ -348,6 +477,7 @@ void ChartView3D::print(QPainter &painter, const QRect &target) {
             p.setPen(palette().color(QPalette::WindowText));
             p.drawText(area, Qt::AlignCenter | Qt::TextWordWrap, notice_->text());
         }
+        paint_frame_label(p, *legend_);
     });
 }
 

@@ -10,18 +10,22 @@
 #include <map>
 #include <optional>
 #include <utility>
+#include <vector>
 
 #include "chart_camera.h"
 #include "chart_data.h"
 #include "chart_decisions.h"
 #include "chart_view.h"
+#include "surface_levels.h"
 
 class Q3DSurface;
 class Q3DBars;
 class QAbstract3DGraph;
+class QCustom3DItem;
 class QCustom3DLabel;
 class QLabel;
 class QStackedWidget;
+class QSurface3DSeries;
 
 namespace quindar {
 
@@ -38,9 +42,14 @@ public:
     // The text shown when the machine cannot draw 3-D.
     static QString noOpenGlText();
     QLabel *notice() const { return notice_; }
+    // The names of the graph's functions and data sets under the chart; hidden for none.
+    QLabel *legend() const { return legend_; }
     QAbstract3DGraph *graph() const;
     // Where the user has turned the view (the decisions' view while nothing can draw).
     CameraView camera() const;
+    // The projection planes shown (floor first), for tests.
+    const std::vector<QSurface3DSeries *> &projectionSeries() const { return projections; }
+    QCustom3DItem *ceiling() const { return ceilingItem; }
 
     QWidget *widget() override { return this; }
     bool canDraw() const override { return glUsable; }
@@ -68,18 +77,28 @@ private:
     void fillSurface();
     void fillBars();
     void applyLooks();
+    // The floor and ceiling pictures of the surface, made again for the current looks.
+    void projectSurface(const SurfaceLook &look);
+    void projectOnFloor(const SurfaceLook &look);
+    void projectOnCeiling(const SurfaceLook &look);
 
     ChartSpec3D spec_;
     std::optional<ChartGrid3D> grid_;
     QLabel *header_;
     QLabel *footer_;
     QLabel *notice_;
+    QLabel *legend_;
     QStackedWidget *stack_;
     Q3DSurface *surface_ = nullptr;
     Q3DBars *bars_ = nullptr;
     QWidget *container_ = nullptr;
     bool glUsable = false;
     bool graphBars = false;
+    QSurface3DSeries *surfaceSeries = nullptr;
+    std::vector<QSurface3DSeries *> projections;
+    QCustom3DItem *ceilingItem = nullptr;
+    // The vertical range of the surface's values.
+    float low = 0, high = 1;
     std::map<std::pair<int, int>, QCustom3DLabel *> labels_;
 };
 

@@ -16,11 +16,14 @@
 #include "chart_view.h"
 #include "chart_view_2d.h"
 #include "command_table.h"
+#include "document_panes.h"
 #include "document_window.h"
 #include "graph_builder.h"
+#include "graph_file_view_commands.h"
 #include "graph_messages.h"
 #include "graph_pane.h"
 #include "graph_view_commands.h"
+#include "graph_view_commands_3d.h"
 #include "ini_graph_settings.h"
 #include "math_editor_widget.h"
 #include "message_box_rules.h"
@@ -52,7 +55,10 @@ public:
         pane->formatValue = [this](double value) {
             std::ostringstream text;
             complex number{value, 0};
-            document.Engine().stream_variable(number, text, 15);
+            // A label shows as many digits as the answers of the text do.
+            const PrecformType *format = document.Engine().answer_format.get();
+            document.Engine().stream_variable(number, text,
+                                              static_cast<int>(format ? format->precision : 14));
             return QString::fromStdString(text.str());
         };
         // The document's close asks whether anything computes.
@@ -113,6 +119,9 @@ public:
                 state.enabled = GraphShowing() && pane->CurrentView() != nullptr &&
                                 pane->CurrentView()->labelCount() > 0;
                 return true;
+            case command::kSet2DPerspective:
+                state.enabled = GraphShowing() && pane->CurrentView() != nullptr;
+                return true;
             case command::kLogarithmicX:
             case command::kLogarithmicY:
             case command::kGridLines:
@@ -122,8 +131,16 @@ public:
             case command::kSaveAsDefaultMargins:
             case command::kSetDefaultOrientation:
             case command::kSaveAsDefaultOrientation: {
-                const GraphData *graph = GraphShowing() ? pane->Shown2D() : nullptr;
-                state.enabled = graph != nullptr && !pane->Building();
+                const bool logAxis = id == command::kLogarithmicX || id == command::kLogarithmicY;
+                // The logarithmic axes belong to 2-D graphs; the rest serve 3-D ones too.
+                const GraphData *graph = !GraphShowing()   ? nullptr
+                                         : pane->Shown2D() ? pane->Shown2D()
+                                         : logAxis         ? nullptr
+                                                           : pane->Shown3D();
+                // A graph read from a file takes the orientation and margin commands too.
+                const bool file = GraphShowing() && !logAxis && id != command::kGridLines &&
+                                  (pane->File2D() != nullptr || pane->File3D() != nullptr);
+                state.enabled = (graph != nullptr || file) && !pane->Building();
                 if (graph != nullptr && id == command::kLogarithmicX)
                     state.checked = graph->XAxisLogarithmic != 0;
                 if (graph != nullptr && id == command::kLogarithmicY)
@@ -140,52 +157,166 @@ public:
     // A view command on the shown graph: the working copy changes, the document's graph of
     // the same name takes the change, and the chart is drawn again.
     void ChangeView(int id) {
-        GraphData *graph = pane->Shown2D();
-        if (graph == nullptr || pane->Building()) return;
+        if (pane->Building()) return;
         int saved = 0;
+        if (GraphData *graph = pane->Shown2D()) {
+            saved = ChangeView2D(id, *graph);
+            if (saved < 0) return;
+        } else if (GraphData *graph3D = pane->Shown3D()) {
+            pane->SaveOrientation();
+            saved = ChangeView3D(id, *graph3D);
+            if (saved < 0) return;
+        } else {
+            ChangeFileView(id);
+            return;
+        }
+        const GraphData &graph = *(pane->Shown2D() ? pane->Shown2D() : pane->Shown3D());
+        for (GraphData *stored = document.Content().graphs.gethead(); stored != nullptr;
+             stored = stored->next)
+            if (stored->Name == graph.Name) {
+                copy_view_fields(graph, *stored);
+                copy_view_fields_3d(graph, *stored);
+            }
+        document.MarkGraphsChanged();
+        // Saving a default leaves the chart as the user sees it.
+        if (saved == 0) pane->Redraw(document.Engine().angle_mode);
+        if (saved != 0) Tell(graph_message(saved), kBoxInformation);
+    }
+
+    // The same commands on a graph read from a file: the chart and the file's keys change,
+    // and what is saved as default is written into the file.
+    void ChangeFileView(int id) {
+        pane->SaveOrientation();
+        int saved = 0;
+        if (GraphFile2D *file = pane->File2D()) {
+            const ChartSpec2D &shown = pane->Chart2D().spec();
+            switch (id) {
+                case command::kIncreaseMargins:
+                case command::kDecreaseMargins:
+                    step_file_margins(*file, shown,
+                                      id == command::kIncreaseMargins ? kMarginStep : -kMarginStep);
+                    break;
+                case command::kSetDefaultMargins:
+                    set_file_default_margins(*file);
+                    break;
+                case command::kSaveAsDefaultMargins:
+                    save_file_default_margins(*file, shown);
+                    saved = kMsgMarginsSaved;
+                    break;
+                case command::kSetDefaultOrientation:
+                    set_file_default_orientation(*file);
+                    break;
+                case command::kSaveAsDefaultOrientation:
+                    save_file_default_orientation(*file, shown);
+                    saved = kMsgOrientationSaved;
+                    break;
+                default:
+                    return;
+            }
+        } else if (GraphFile3D *file3D = pane->File3D()) {
+            const float scale = file3D->view[6];
+            switch (id) {
+                case command::kIncreaseMargins:
+                case command::kDecreaseMargins:
+                    step_file_scale(*file3D, scale,
+                                    id == command::kIncreaseMargins ? kScaleStep : -kScaleStep);
+                    break;
+                case command::kSetDefaultMargins:
+                    set_file_default_scale(*file3D);
+                    break;
+                case command::kSaveAsDefaultMargins:
+                    save_file_default_scale(*file3D, scale);
+                    saved = kMsgMarginsSaved;
+                    break;
+                case command::kSetDefaultOrientation:
+                    set_file_default_orientation(*file3D);
+                    break;
+                case command::kSaveAsDefaultOrientation:
+                    save_file_default_orientation(*file3D, file3D->view);
+                    saved = kMsgRotationSaved;
+                    break;
+                default:
+                    return;
+            }
+        } else {
+            return;
+        }
+        if (saved == 0) {
+            pane->Redraw(document.Engine().angle_mode);
+            return;
+        }
+        std::string error;
+        if (!pane->RewriteFile(error)) {
+            workbench.Messages().ShowPlain(pane, QString::fromStdString(error),
+                                           QStringLiteral("Save Graph As"), kBoxWarning);
+            return;
+        }
+        Tell(graph_message(saved), kBoxInformation);
+    }
+
+    void Tell(std::string_view text, int kind) {
+        workbench.Messages().Show(
+            pane, QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())),
+            kMsgGraphWindow, kind);
+    }
+
+    // The message to show after a 2-D view command, 0 for none, -1 when it was refused.
+    int ChangeView2D(int id, GraphData &graph) {
         switch (id) {
             case command::kLogarithmicX:
             case command::kLogarithmicY:
-                if (const int refusal = toggle_log_axis(*graph, id == command::kLogarithmicX)) {
-                    const std::string_view text = graph_message(refusal);
-                    workbench.Messages().Show(
-                        pane, QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())),
-                        kMsgGraphWindow, kBoxWarning);
-                    return;
+                if (const int refusal = toggle_log_axis(graph, id == command::kLogarithmicX)) {
+                    Tell(graph_message(refusal), kBoxWarning);
+                    return -1;
                 }
-                break;
+                return 0;
             case command::kGridLines:
-                toggle_grid_lines(*graph);
-                break;
+                toggle_grid_lines(graph);
+                return 0;
             case command::kSetDefaultMargins:
-                set_default_margins(*graph);
-                break;
+                set_default_margins(graph);
+                return 0;
             case command::kSetDefaultOrientation:
-                set_default_orientation(*graph);
-                break;
+                set_default_orientation(graph);
+                return 0;
             case command::kSaveAsDefaultMargins:
-                save_default_margins(*graph, pane->Chart2D().spec());
-                saved = kMsgMarginsSaved;
-                break;
+                save_default_margins(graph, pane->Chart2D().spec());
+                return kMsgMarginsSaved;
             case command::kSaveAsDefaultOrientation:
-                save_default_orientation(*graph, pane->Chart2D().spec());
-                saved = kMsgOrientationSaved;
-                break;
+                save_default_orientation(graph, pane->Chart2D().spec());
+                return kMsgOrientationSaved;
             default:
-                step_margins(*graph, pane->Chart2D().spec(),
+                step_margins(graph, pane->Chart2D().spec(),
                              id == command::kIncreaseMargins ? kMarginStep : -kMarginStep);
-                break;
+                return 0;
         }
-        for (GraphData *stored = document.Content().graphs.gethead(); stored != nullptr;
-             stored = stored->next)
-            if (stored->Name == graph->Name) copy_view_fields(*graph, *stored);
-        document.MarkGraphsChanged();
-        pane->Redraw(document.Engine().angle_mode);
-        if (saved != 0) {
-            const std::string_view text = graph_message(saved);
-            workbench.Messages().Show(
-                pane, QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())),
-                kMsgGraphWindow, kBoxInformation);
+    }
+
+    // The same for a 3-D graph, whose margins are its scale.
+    int ChangeView3D(int id, GraphData &graph) {
+        switch (id) {
+            case command::kGridLines:
+                toggle_grid_lines(graph);
+                return 0;
+            case command::kSetDefaultMargins:
+                set_default_scale(graph);
+                return 0;
+            case command::kSetDefaultOrientation:
+                set_default_orientation_3d(graph);
+                return 0;
+            case command::kSaveAsDefaultMargins:
+                save_default_scale(graph, graph.Scale);
+                return kMsgMarginsSaved;
+            case command::kSaveAsDefaultOrientation:
+                save_default_orientation_3d(graph, view_3d(graph));
+                return kMsgRotationSaved;
+            case command::kIncreaseMargins:
+            case command::kDecreaseMargins:
+                step_scale(graph, graph.Scale,
+                           id == command::kIncreaseMargins ? kScaleStep : -kScaleStep);
+                return 0;
+            default:  // a 3-D graph has no logarithmic axes
+                return -1;
         }
     }
 
@@ -215,6 +346,9 @@ public:
             case command::kRemoveAllPointLabels:
                 if (ChartView *view = pane->CurrentView()) view->removeAllLabels();
                 return true;
+            case command::kSet2DPerspective:
+                pane->Perspective();
+                return true;
             case command::kLogarithmicX:
             case command::kLogarithmicY:
             case command::kGridLines:
@@ -234,7 +368,12 @@ public:
     void ShowPane() {
         if (GraphShowing()) return;
         workbench.PlaySound("Click.wav");
+        // The graph takes the whole document: the lists that are open close, the text hides.
+        DocumentPanes &panes = document.Panes();
+        if (panes.VariablesListOpen()) panes.CommandHandler(command::kVariablesList);
+        if (panes.FunctionsListOpen()) panes.CommandHandler(command::kFunctionsList);
         document.TextPane().hide();
+        panes.hide();
         pane->show();
         pane->setFocus();
         CaptionChanged();
@@ -260,6 +399,7 @@ public:
         DocumentContent &content = document.Content();
         if (content.currentGraph == nullptr || pane->Building()) return;
         if (pane->HasChart() && !content.currentGraph->NeedsData) return;
+        KeepTurnedView();
         BuildShown(*content.currentGraph, {});
     }
 
@@ -282,14 +422,30 @@ public:
         return pane->Build(document.Engine(), graph, &document.Content().graphs, output);
     }
 
+    // A 3-D view the user turned on the chart goes into the document's graph, so that the next
+    // build and the saved document keep it.
+    void KeepTurnedView() {
+        GraphData *shown = pane->Shown3D();
+        if (shown == nullptr) return;
+        pane->SaveOrientation();
+        for (GraphData *stored = document.Content().graphs.gethead(); stored != nullptr;
+             stored = stored->next) {
+            if (stored->Name != shown->Name || view_3d(*stored) == view_3d(*shown)) continue;
+            set_view_3d(*stored, view_3d(*shown));
+            document.MarkGraphsChanged();
+        }
+    }
+
     bool ToText() {
         if (!GraphShowing()) return true;
         if (pane->Building()) {
             RefuseWhileBuilding(workbench, pane);
             return true;
         }
+        KeepTurnedView();
         workbench.PlaySound("Click.wav");
         pane->hide();
+        document.Panes().show();
         document.TextPane().show();
         document.TextPane().setFocus();
         CaptionChanged();
@@ -372,6 +528,7 @@ constexpr int kGraphCommands[] = {command::kShowGraphWindow,
                                   command::kOpenGraphFile,
                                   command::kPointLabels,
                                   command::kRemoveAllPointLabels,
+                                  command::kSet2DPerspective,
                                   command::kLogarithmicX,
                                   command::kLogarithmicY,
                                   command::kGridLines,

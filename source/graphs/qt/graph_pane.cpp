@@ -2,6 +2,8 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 #include "graph_pane.h"
 
+#include <QAction>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
 #include <QStackedLayout>
@@ -16,6 +18,8 @@
 #include "graph_layout.h"
 #include "graph_messages.h"
 #include "graph_progress_dialog.h"
+#include "graph_view_commands.h"
+#include "grid_smoothing.h"
 
 namespace quindar {
 namespace {
@@ -32,6 +36,12 @@ GraphPane::GraphPane(QWidget *parent)
     connect(chart2D, &ChartView2D::clicked, this, &GraphPane::Click);
     connect(chart2D, &ChartView2D::doubleClicked, this, &GraphPane::DoubleClick);
     formatValue = [](double value) { return QString::number(value, 'g', 15); };
+    // Smoothing is in no menu: its key is the way to it.
+    auto *smooth = new QAction(tr("Smooth Graph"), this);
+    smooth->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_M));
+    smooth->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    connect(smooth, &QAction::triggered, this, &GraphPane::Smooth);
+    addAction(smooth);
 }
 
 GraphPane::~GraphPane() = default;
@@ -39,7 +49,9 @@ GraphPane::~GraphPane() = default;
 bool GraphPane::Build(Parser &parser, const GraphData &graph, GraphList *list,
                       const GraphBuildOutput &output) {
     if (building) return false;
-    GraphData work(graph);
+    labelBuilder.reset();
+    labelGraph = std::make_unique<GraphData>(graph);
+    GraphData &work = *labelGraph;
     if (work.GetGraphType() == kGraph2D) work.DataLayout = decide_data_layout(parser, work);
 
     GraphProgressDialog dialog(window());
@@ -50,7 +62,8 @@ bool GraphPane::Build(Parser &parser, const GraphData &graph, GraphList *list,
     parser.set_computation_hooks(&host);
     progress = &dialog;
     building = true;
-    GraphBuilder builder(parser, work, output);
+    labelBuilder = std::make_unique<GraphBuilder>(parser, work, output);
+    GraphBuilder &builder = *labelBuilder;
     const bool complete = builder.Build(list);
     building = false;
     progress = nullptr;
@@ -69,6 +82,14 @@ bool GraphPane::Build(Parser &parser, const GraphData &graph, GraphList *list,
         stack->setCurrentWidget(chart2D);
     } else if (data3D) {
         Show3D(chart_spec_3d(work), *data3D);
+    } else if (builder.Kind == kGraph3D) {
+        // Nothing computed at all (a function that cannot be mapped): an empty chart of the
+        // graph rather than the last one.
+        Show3D(chart_spec_3d(work), ChartGrid3D::regular(2, 2, kHoleValue, 1, 1, 0, 0));
+    } else {
+        chart2D->apply(chart_spec_2d(work, parser.angle_mode));
+        chart2D->setData(ChartData2D(1, 1, 0));
+        stack->setCurrentWidget(chart2D);
     }
     emit built();
     return complete;
@@ -76,6 +97,56 @@ bool GraphPane::Build(Parser &parser, const GraphData &graph, GraphList *list,
 
 void GraphPane::Redraw(int angleMode) {
     if (GraphData *graph = Shown2D()) chart2D->apply(chart_spec_2d(*graph, angleMode));
+    if (file2D) chart2D->apply(chart_spec_2d(*file2D, angleMode));
+    if (file3D && chart3D != nullptr) chart3D->apply(chart_spec_3d(*file3D));
+    if (GraphData *graph = Shown3D(); graph != nullptr && chart3D != nullptr) {
+        chart3D->apply(chart_spec_3d(*graph));
+    }
+}
+
+View3DValues GraphPane::ShownView3D() const {
+    if (chart3D == nullptr) return {};
+    const ChartSpec3D &spec = chart3D->spec();
+    const GraphView3D turned = view_from_camera(chart3D->camera());
+    // The camera holds no perspective depth and no roll: those stay as last drawn.
+    return {spec.perspectiveDepth, turned.xRotation,  spec.yRotation, turned.zRotation,
+            turned.xTranslate,     turned.yTranslate, turned.scale};
+}
+
+void GraphPane::SaveOrientation() {
+    if (file2D) {
+        // What the chart shows is what a graph file keeps.
+        const ChartSpec2D &shown = chart2D->spec();
+        file2D->depth = shown.depth;
+        file2D->inclination = shown.inclination;
+        file2D->rotation = shown.rotation;
+        file2D->margins = {shown_margin(shown.marginBottom), shown_margin(shown.marginTop),
+                           shown_margin(shown.marginLeft), shown_margin(shown.marginRight)};
+    }
+    if (chart3D == nullptr) return;
+    if (GraphData *graph = Shown3D()) set_view_3d(*graph, ShownView3D());
+    if (file3D) file3D->view = ShownView3D();
+}
+
+void GraphPane::Perspective() {
+    if (CurrentView() == chart2D) {
+        ChartSpec2D spec = chart2D->spec();
+        perspective_view(spec);
+        chart2D->apply(spec);
+    } else if (chart3D != nullptr && CurrentView() == chart3D) {
+        ChartSpec3D spec = chart3D->spec();
+        perspective_view(spec);
+        chart3D->apply(spec);
+    }
+}
+
+bool GraphPane::Smooth() {
+    if (chart3D == nullptr || CurrentView() != chart3D || building) return false;
+    ChartGrid3D *grid = data3D ? &*data3D : file3D ? &file3D->grid : nullptr;
+    if (grid == nullptr) return false;
+    smooth_grid(*grid);
+    chart3D->setData(*grid);
+    return true;
 }
 
 void GraphPane::Show3D(const ChartSpec3D &spec, const ChartGrid3D &grid) {
@@ -125,6 +196,7 @@ bool GraphPane::OpenFile(const std::string &path, const GraphDefaults &defaults,
     shownGraph.reset();
     data2D.reset();
     data3D.reset();
+    filePath = path;
     return true;
 }
 
@@ -140,34 +212,19 @@ std::string GraphPane::FileExtension() const {
 
 bool GraphPane::SaveFile(const std::string &path, std::string &error) const {
     // A 3-D file keeps the view as the user turned it.
-    const std::optional<GraphView3D> turned =
-        chart3D != nullptr && (data3D || file3D)
-            ? std::optional<GraphView3D>(view_from_camera(chart3D->camera()))
-            : std::nullopt;
+    const bool turned = chart3D != nullptr && (data3D || file3D);
     std::string text;
     if (file2D) {
         text = graph_file_text(*file2D);
     } else if (file3D) {
         GraphFile3D file = *file3D;
-        if (turned) {
-            file.view[1] = turned->xRotation;
-            file.view[3] = turned->zRotation;
-            file.view[4] = turned->xTranslate;
-            file.view[5] = turned->yTranslate;
-            file.view[6] = turned->scale;
-        }
+        if (turned) file.view = ShownView3D();
         text = graph_file_text(file);
     } else if (shownGraph && data2D) {
         text = graph_file_text(make_graph_file_2d(*shownGraph, *data2D));
     } else if (shownGraph && data3D) {
         GraphData graph = *shownGraph;
-        if (turned) {
-            graph.XRotation = turned->xRotation;
-            graph.ZRotation = turned->zRotation;
-            graph.XTranslate = turned->xTranslate;
-            graph.YTranslate = turned->yTranslate;
-            graph.Scale = turned->scale;
-        }
+        if (turned) set_view_3d(graph, ShownView3D());
         text = graph_file_text(make_graph_file_3d(graph, *data3D));
     } else {
         error = "no graph";
@@ -193,14 +250,24 @@ void GraphPane::Print(QPainter &painter, const QRect &target) const {
     if (ChartView *view = CurrentView()) view->print(painter, target);
 }
 
+void GraphPane::keyPressEvent(QKeyEvent *event) {
+    modifierDown = event->key() == Qt::Key_Shift || event->key() == Qt::Key_Control;
+    QWidget::keyPressEvent(event);
+}
+
 void GraphPane::Toggle3DLabel(int ix, int iz) {
+    if (std::exchange(modifierDown, false)) return;
     if (!pointLabelsOn || chart3D == nullptr || CurrentView() != chart3D) return;
     if (chart3D->removeLabel(ix, iz)) return;
     // A graph read from a file has no definition to label from.
-    if (!data3D || !data3D->in_range(ix, iz) || data3D->value(ix, iz) == data3D->hole()) return;
+    if (!data3D || !labelBuilder || !data3D->in_range(ix, iz) ||
+        data3D->value(ix, iz) == data3D->hole())
+        return;
+    // The values come from the definition, the function computed afresh, not from the grid.
+    complex x, y, z;
+    if (!labelBuilder->LabelValues3D(*data3D, ix, iz, x, y, z)) return;
     const QString text = QStringLiteral(" (%1 , %2 , %3) ")
-                             .arg(formatValue(data3D->x_at(ix)), formatValue(data3D->value(ix, iz)),
-                                  formatValue(data3D->z_at(iz)));
+                             .arg(formatValue(x.real), formatValue(y.real), formatValue(z.real));
     chart3D->addLabel(ix, iz, text);
 }
 
@@ -261,6 +328,7 @@ void GraphPane::Click(QPoint position) {
         if (openSetup) openSetup(chart2D->mapToGlobal(position));
         return;
     }
+    if (std::exchange(modifierDown, false)) return;
     if (!pointLabelsOn || CurrentView() != chart2D) return;
     const ChartPick hit = chart2D->pick(position);
     if (!pick_takes_label(hit.region, hit.distance)) return;

@@ -8,6 +8,7 @@
 
 #include <QWidget>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -16,7 +17,9 @@
 #include "graph_builder.h"
 #include "graph_data.h"
 #include "graph_file.h"
+#include "graph_view_commands_3d.h"
 
+class QKeyEvent;
 class QLineEdit;
 class QPainter;
 class QStackedLayout;
@@ -56,8 +59,25 @@ public:
     const GraphData *Shown() const { return shownGraph ? &*shownGraph : nullptr; }
     // The built 2-D graph the pane shows (its working copy), null for none or a file.
     GraphData *Shown2D() { return shownGraph && data2D ? &*shownGraph : nullptr; }
+    // The same for a built 3-D graph.
+    GraphData *Shown3D() { return shownGraph && data3D ? &*shownGraph : nullptr; }
+    // The graph file the pane shows, null for none.
+    GraphFile2D *File2D() { return file2D ? &*file2D : nullptr; }
+    GraphFile3D *File3D() { return file3D ? &*file3D : nullptr; }
+    // Writes the shown graph file again where it was read from; false with the reason.
+    bool RewriteFile(std::string &error) const { return SaveFile(filePath, error); }
     // Draws the shown graph again from its definition, keeping data and labels.
     void Redraw(int angleMode);
+    // Carries a 3-D view the user turned on the chart into the shown graph, so that a redraw
+    // keeps it.
+    void SaveOrientation();
+    // The seven view values the 3-D chart shows.
+    View3DValues ShownView3D() const;
+    // Set 2D Perspective: the chart alone turns to face the viewer; the graph learns of it at
+    // the next SaveOrientation.
+    void Perspective();
+    // Smooths the 3-D chart's data once; false when no 3-D chart shows.
+    bool Smooth();
     // The 3-D chart, made on the first 3-D graph; null before.
     ChartView3D *Chart3D() const { return chart3D; }
     // The chart that shows, null for none.
@@ -89,6 +109,11 @@ public:
     // Takes the editor's text into the chart and the shown graph, and closes it.
     void CommitTitle();
 
+protected:
+    // Shift or Ctrl as the last key pressed keeps the next click from labelling: that click
+    // belongs to the chart's own handling.
+    void keyPressEvent(QKeyEvent *event) override;
+
 signals:
     void built();
     // A header (kind 0) or footer (kind 1) was edited on a built graph.
@@ -102,6 +127,7 @@ private:
     ChartView3D *chart3D = nullptr;
     QLineEdit *titleEditor = nullptr;
     int titleKind = 0;
+    bool modifierDown = false;
     GraphProgressDialog *progress = nullptr;
     bool building = false;
     // What the pane shows: a built graph and its data, or a file's contents.
@@ -110,6 +136,10 @@ private:
     std::optional<ChartGrid3D> data3D;
     std::optional<GraphFile2D> file2D;
     std::optional<GraphFile3D> file3D;
+    std::string filePath;
+    // The last build, kept for the values of 3-D point labels, which come from the definition.
+    std::unique_ptr<GraphData> labelGraph;
+    std::unique_ptr<GraphBuilder> labelBuilder;
 };
 
 }  // namespace quindar

@@ -13,6 +13,7 @@
 #include <QChartView>
 #include <QClipboard>
 #include <QDir>
+#include <QGraphicsSimpleTextItem>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLegendMarker>
@@ -106,6 +107,7 @@ class ChartView2DTest : public QObject {
     Q_OBJECT
 private slots:
     void eachTypeDrawsItsSeriesOnItsChart();
+    void eachPieIsNamedUnderIt();
     void holesSplitLinesAndLegendKeepsSetOrder();
     void axisKindsFollowTheLogDecisions();
     void stylesAndColoursAreApplied();
@@ -129,7 +131,29 @@ void ChartView2DTest::eachTypeDrawsItsSeriesOnItsChart() {
             qPrintable(QStringLiteral("%1: %2 series").arg(type.name).arg(chart->series().size())));
         for (QAbstractSeries *series : chart->series())
             QVERIFY2(series->type() == type.series, type.name);
+        QCOMPARE(view.pieCaptions().empty(), type.stored != 3);
     }
+}
+
+void ChartView2DTest::eachPieIsNamedUnderIt() {
+    ChartView2D view;
+    view.resize(800, 500);
+    view.apply(SampleSpec(3));
+    view.setData(SampleData(3));
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    QStringList names;
+    double left = -1;
+    for (QGraphicsSimpleTextItem *caption : view.pieCaptions()) {
+        names << caption->text();
+        // Left to right in set order, under the middle of the plot area.
+        const QPointF centre = caption->mapToScene(caption->boundingRect().center());
+        QVERIFY(centre.x() > left);
+        left = centre.x();
+        QVERIFY(centre.y() > view.chart()->plotArea().center().y());
+        QVERIFY(view.chart()->plotArea().contains(centre));
+    }
+    QCOMPARE(names, (QStringList{"h(x)", "g(x)", "f(x)", "data1"}));
 }
 
 void ChartView2DTest::holesSplitLinesAndLegendKeepsSetOrder() {

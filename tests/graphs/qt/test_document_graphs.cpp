@@ -8,6 +8,7 @@
 #include <QChart>
 #include <QChartView>
 #include <QClipboard>
+#include <QDir>
 #include <QFile>
 #include <QGuiApplication>
 #include <QLabel>
@@ -19,6 +20,8 @@
 #include <QTimer>
 #include <QtTest>
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "chart_data.h"
 #include "chart_view_2d.h"
@@ -27,6 +30,7 @@
 #include "command_table.h"
 #include "desktop_harness.h"
 #include "document_graph_tools.h"
+#include "document_panes.h"
 #include "document_window.h"
 #include "graph_pane.h"
 #include "graph_progress_dialog.h"
@@ -58,6 +62,16 @@ int Holes(const ChartData2D &data) {
     return holes;
 }
 
+// The value of one key in a graph file's section.
+QString FileKey(const QString &path, const QString &key) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) return QStringLiteral("(unreadable)");
+    for (const QByteArray &line : file.readAll().split('\n'))
+        if (line.startsWith(key.toUtf8() + "="))
+            return QString::fromUtf8(line.mid(key.size() + 1)).trimmed();
+    return QStringLiteral("(missing)");
+}
+
 }  // namespace
 
 class DocumentGraphsTest : public QObject {
@@ -72,6 +86,9 @@ private slots:
     void doubleClickOnTheHeaderEditsItInPlace();
     void aSurfaceWithoutOpenGlShowsANoticeAndStillSaves();
     void thePopUpRepeatsTheGraphMenu();
+    void aGraphWhoseEveryPointFailsDrawsAnEmptyChart();
+    void closingTheProgramDuringABuildIsRefused();
+    void viewCommandsOnAGraphFileWriteItsKeys();
 };
 
 void DocumentGraphsTest::graphCommandBuildsAndSwapsBackKeepingTheText() {
@@ -80,10 +97,16 @@ void DocumentGraphsTest::graphCommandBuildsAndSwapsBackKeepingTheText() {
     DocumentWindow &document = *harness.Current();
     document.TextPane().setPlainText(QStringLiteral("a=1\nkept text"));
     AddGraph(document, 41);
+    if (!document.Panes().FunctionsListOpen())
+        document.Panes().CommandHandler(command::kFunctionsList);
+    QVERIFY(document.Panes().FunctionsListOpen());
     QVERIFY(harness.Bench().Router().Execute(command::kShowGraphWindow));
     GraphPane &pane = document_graph_pane(harness.Bench(), document);
     QVERIFY(!pane.isHidden());
     QVERIFY(document.TextPane().isHidden());
+    // The lists close while the graph shows the document, and stay closed after.
+    QVERIFY(!document.Panes().VariablesListOpen());
+    QVERIFY(!document.Panes().FunctionsListOpen());
     QCOMPARE(document.Caption(), QStringLiteral("1 - MATH EDITOR : G"));
     const ChartView2D &chart = pane.Chart2D();
     QVERIFY(chart.data().has_value());
@@ -97,6 +120,14 @@ void DocumentGraphsTest::graphCommandBuildsAndSwapsBackKeepingTheText() {
     QVERIFY(document.CommandEnabler(command::kShowGraphWindow, state));
     QVERIFY(state.checked);
 
+    // The whole program with the graph in its document, for a look.
+    harness.Frame().resize(1000, 700);
+    harness.Frame().show();
+    QVERIFY(QTest::qWaitForWindowExposed(&harness.Frame()));
+    QDir().mkpath(QStringLiteral(QUINDAR_BUILD_DIR "screens"));
+    QVERIFY(harness.Frame().grab().save(
+        QStringLiteral(QUINDAR_BUILD_DIR "screens/document_graph2d.png")));
+
     QGuiApplication::clipboard()->clear();
     QVERIFY(harness.Bench().Router().Execute(command::kCopyGraph));
     QVERIFY(!QGuiApplication::clipboard()->image().isNull());
@@ -104,6 +135,8 @@ void DocumentGraphsTest::graphCommandBuildsAndSwapsBackKeepingTheText() {
     QVERIFY(harness.Bench().Router().Execute(command::kShowGraphWindow));
     QVERIFY(pane.isHidden());
     QVERIFY(!document.TextPane().isHidden());
+    QVERIFY(document.TextPane().isVisible());
+    QVERIFY(!document.Panes().VariablesListOpen());
     QCOMPARE(document.TextPane().toPlainText(), QStringLiteral("a=1\nkept text"));
     QCOMPARE(document.Caption(), QStringLiteral("1 - MATH EDITOR"));
     QVERIFY(document.CommandEnabler(command::kCopyGraph, state));
@@ -166,6 +199,23 @@ void DocumentGraphsTest::aClickTogglesAPointLabel() {
     QCOMPARE(chart.labelCount(), 0);
     pane.Click(at + QPoint(0, 12));  // too far: nothing
     QCOMPARE(chart.labelCount(), 0);
+    // Labels show the digits the text's answers show.
+    document.Engine().answer_format->precision = 3;
+    QCOMPARE(pane.formatValue(2.0 / 3), QStringLiteral("0.667"));
+    document.Engine().answer_format->precision = 14;
+    QCOMPARE(pane.formatValue(2.0 / 3), QStringLiteral("0.66666666666667"));
+    // Shift as the last key: that click adds nothing, the next one does.
+    QTest::keyPress(&pane, Qt::Key_Shift);
+    pane.Click(at);
+    QCOMPARE(chart.labelCount(), 0);
+    pane.Click(at);
+    QVERIFY(chart.hasLabel(0, 3));
+    // Any other key clears it again.
+    pane.Click(at);
+    QTest::keyPress(&pane, Qt::Key_Control);
+    QTest::keyPress(&pane, Qt::Key_A);
+    pane.Click(at);
+    QVERIFY(chart.hasLabel(0, 3));
 }
 
 void DocumentGraphsTest::savedGraphOpensAgain() {
@@ -294,6 +344,30 @@ void DocumentGraphsTest::aSurfaceWithoutOpenGlShowsANoticeAndStillSaves() {
                                                : QString());
     QVERIFY(saved.open(QIODevice::ReadOnly));
     QVERIFY(saved.readAll().startsWith("QUINDAR GRAPH DATA"));
+    saved.close();
+
+    // Opened again, its view commands work without a chart that draws: scale steps by a tenth,
+    // and the default scale is kept whole.
+    const QString path = harness.Folder() + QStringLiteral("/surface.g3d");
+    harness.nextOpenFiles = {path};
+    CommandRouter &router = harness.Bench().Router();
+    QVERIFY(router.Execute(command::kOpenGraphFile));
+    QVERIFY(pane.File3D() != nullptr);
+    QVERIFY(router.Execute(command::kIncreaseMargins));
+    QVERIFY(router.Execute(command::kIncreaseMargins));
+    QCOMPARE(pane.File3D()->view[6], 1.2f);
+    harness.boxes.Expect(QStringLiteral("The current margins have been saved as the default"),
+                         kIdOk);
+    QVERIFY(router.Execute(command::kSaveAsDefaultMargins));
+    QCOMPARE(FileKey(path, QStringLiteral("DefaultScale")), QStringLiteral("1.000"));
+    QCOMPARE(FileKey(path, QStringLiteral("Scale")), QStringLiteral("1.200"));
+    harness.boxes.Expect(
+        QStringLiteral("The current x,y,z rotation has been saved as the default orientation."),
+        kIdOk);
+    QVERIFY(router.Execute(command::kSaveAsDefaultOrientation));
+    QCOMPARE(FileKey(path, QStringLiteral("DefaultScale")), QStringLiteral("1.200"));
+    QVERIFY(router.Execute(command::kSetDefaultMargins));
+    QCOMPARE(pane.File3D()->view[6], 1.0f);
     QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
@@ -313,6 +387,131 @@ void DocumentGraphsTest::thePopUpRepeatsTheGraphMenu() {
     for (QAction *action : menu->actions())
         if (action->text() == QStringLiteral("&Copy Graph To Clip Board"))
             QVERIFY(action->isEnabled());
+}
+
+void DocumentGraphsTest::aGraphWhoseEveryPointFailsDrawsAnEmptyChart() {
+    DesktopHarness harness;
+    install_graph_tools(harness.Bench());
+    DocumentWindow &document = *harness.Current();
+    // A data set whose every Y fails, then a function that cannot even be mapped.
+    GraphData *points = add_new_graph(document.Content().graphs, "Points", nullptr);
+    StrDataPnts *set = points->DataSets.add();
+    set->SetName("d");
+    const char *xs[] = {"1", "2", "3", "4"};
+    for (int i = 0; i < 4; ++i) {
+        set->PutXDataPoint(xs[i], i);
+        set->PutYDataPoint("1/0", i);
+    }
+    points->SetHeader("Nothing computes");
+    document.Engine().eval_exp("f(x)=1/(x-x)", true, false);
+    GraphData *broken = add_new_graph(document.Content().graphs, "Broken", nullptr);
+    broken->AddFunction("f(x)", "");
+    const Variable x("x", complex{0, 0}, complex{1, 0}, 6);
+    broken->SetXAxisVar(&x);
+    broken->SetHeader("Not even mapped");
+    GraphPane &pane = document_graph_pane(harness.Bench(), document);
+    struct Case {
+        GraphData *graph;
+        std::size_t errors;
+        const char *error;
+        bool data;
+        const char *header;
+    };
+    const Case cases[] = {
+        {points, 4, "Division By Zero", true, "Nothing computes"},
+        {broken, 2, "could not be mapped", false, "Not even mapped"},
+    };
+    for (const Case &c : cases) {
+        // The build reports what failed to the error list.
+        std::vector<std::string> errors;
+        GraphBuildOutput output;
+        output.add_error = [&errors](std::string_view line) { errors.emplace_back(line); };
+        pane.Build(document.Engine(), *c.graph, &document.Content().graphs, output);
+        QCOMPARE(errors.size(), c.errors);
+        QVERIFY2(errors.back().find(c.error) != std::string::npos, errors.back().c_str());
+        // An empty chart of this graph, never the one before, and no crash.
+        ChartView2D &chart = pane.Chart2D();
+        QCOMPARE(pane.CurrentView() != nullptr, c.data);
+        QVERIFY(chart.chart()->series().isEmpty());
+        QCOMPARE(chart.header()->text(), QString::fromUtf8(c.header));
+        if (c.data) QCOMPARE(Holes(*chart.data()), 4);
+        QVERIFY(!chart.renderImage(QSize(400, 300)).isNull());
+        // A click anywhere on it finds no point to label.
+        pane.Click(QPoint(200, 150));
+        QCOMPARE(chart.labelCount(), 0);
+    }
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DocumentGraphsTest::closingTheProgramDuringABuildIsRefused() {
+    DesktopHarness harness;
+    install_graph_tools(harness.Bench());
+    DocumentWindow &document = *harness.Current();
+    AddGraph(document, 4001);
+    GraphPane &pane = document_graph_pane(harness.Bench(), document);
+    pane.pumpMilliseconds = 0;
+    harness.boxes.Expect(QStringLiteral("You are currently building a graph, you must first stop "
+                                        "the computation process before closing the window?"),
+                         kIdOk);
+    bool frameClosed = true;
+    QTimer::singleShot(0, &pane, [&] {
+        QVERIFY(pane.Building());
+        frameClosed = harness.Frame().close();
+        pane.Progress()->cancelButton()->click();
+    });
+    QVERIFY(harness.Bench().Router().Execute(command::kShowGraphWindow));
+    QVERIFY(!frameClosed);
+    QVERIFY(!harness.Bench().closing);
+    QVERIFY(harness.Current() == &document);
+    QVERIFY(harness.boxes.shown.front().startsWith(QStringLiteral("Graph Window: ")));
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
+}
+
+void DocumentGraphsTest::viewCommandsOnAGraphFileWriteItsKeys() {
+    DesktopHarness harness;
+    install_graph_tools(harness.Bench());
+    DocumentWindow &document = *harness.Current();
+    AddGraph(document, 9);
+    CommandRouter &router = harness.Bench().Router();
+    QVERIFY(router.Execute(command::kShowGraphWindow));
+    GraphPane &pane = document_graph_pane(harness.Bench(), document);
+    const QString path = harness.Folder() + QStringLiteral("/margins.g2d");
+    harness.nextSaveFile = path;
+    QVERIFY(router.Execute(command::kSaveGraphFile));
+    harness.nextOpenFiles = {path};
+    QVERIFY(router.Execute(command::kOpenGraphFile));
+    QVERIFY(pane.File2D() != nullptr);
+    CommandState state;
+    QVERIFY(document.CommandEnabler(command::kIncreaseMargins, state));
+    QVERIFY(state.enabled);
+    QVERIFY(document.CommandEnabler(command::kGridLines, state));
+    QVERIFY2(!state.enabled, "the grid needs a graph's definition");
+    QVERIFY(document.CommandEnabler(command::kLogarithmicY, state));
+    QVERIFY(!state.enabled);
+
+    const QMargins before = pane.Chart2D().chart()->margins();
+    QVERIFY(router.Execute(command::kIncreaseMargins));
+    QCOMPARE(pane.Chart2D().chart()->margins(), before + QMargins(25, 25, 25, 25));
+    harness.boxes.Expect(QStringLiteral("The current margins have been saved as the default"),
+                         kIdOk);
+    QVERIFY(router.Execute(command::kSaveAsDefaultMargins));
+    QCOMPARE(FileKey(path, QStringLiteral("DefaultMarginTop2D")),
+             QString::number(before.top() + 25));
+    QCOMPARE(FileKey(path, QStringLiteral("MarginTop2D")), QString::number(before.top() + 25));
+    QVERIFY(router.Execute(command::kDecreaseMargins));
+    QVERIFY(router.Execute(command::kSetDefaultMargins));
+    QCOMPARE(pane.Chart2D().chart()->margins(), before + QMargins(25, 25, 25, 25));
+
+    // Set 2D Perspective turns the chart; Save As Default writes what it shows.
+    QVERIFY(router.Execute(command::kSet2DPerspective));
+    harness.boxes.Expect(QStringLiteral("The current rotation, inclination and margins have been "
+                                        "saved as the default orientation."),
+                         kIdOk);
+    QVERIFY(router.Execute(command::kSaveAsDefaultOrientation));
+    QCOMPARE(FileKey(path, QStringLiteral("DefaultInclination")), QStringLiteral("0"));
+    QCOMPARE(FileKey(path, QStringLiteral("Inclination")), QStringLiteral("0"));
+    QCOMPARE(FileKey(path, QStringLiteral("DefaultDepth")), QStringLiteral("20"));
+    QVERIFY2(harness.Leftovers().isEmpty(), qPrintable(harness.Leftovers()));
 }
 
 QTEST_MAIN(DocumentGraphsTest)
