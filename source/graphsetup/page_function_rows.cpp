@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 #include "page_function_rows.h"
 
+#include "function_rows.h"
 #include "graph_data.h"
 #include "parser.h"
 
@@ -13,10 +14,9 @@ std::vector<std::string> function_rows(const GraphData &graph, Parser &parser,
                                        bool withUndeclared) {
     std::vector<std::string> rows;
     for (int i = 0; const Function *function = graph.GetFunction(i); ++i) {
-        const int index = parser.find_function(function->full_name.c_str());
-        const char *declared = index >= 0 ? parser.get_func_str(index) : nullptr;
-        if (declared != nullptr)
-            rows.emplace_back(declared);
+        std::string declared = declared_function_row(parser, function->full_name);
+        if (!declared.empty())
+            rows.push_back(std::move(declared));
         else if (withUndeclared)
             rows.push_back(function->full_name);
     }

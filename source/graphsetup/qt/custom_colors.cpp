@@ -5,17 +5,9 @@
 #include <QColorDialog>
 
 #include "app_settings.h"
+#include "dialog_custom_colors.h"
 
 namespace quindar {
-
-void save_custom_colors(const AppSettings &settings) {
-    for (int n = 1; n <= settings::kCustomColorCount; ++n) {
-        const QColor color = QColorDialog::customColor(n - 1);
-        settings.SetCustomColor(n, TColor(static_cast<std::uint8_t>(color.red()),
-                                          static_cast<std::uint8_t>(color.green()),
-                                          static_cast<std::uint8_t>(color.blue())));
-    }
-}
 
 std::optional<QColor> choose_graph_color(const QColor &initial, QWidget *parent,
                                          const AppSettings &settings) {

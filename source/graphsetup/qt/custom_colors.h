@@ -19,7 +19,4 @@ class AppSettings;
 std::optional<QColor> choose_graph_color(const QColor &initial, QWidget *parent,
                                          const AppSettings &settings);
 
-// The dialog's sixteen custom colours into the settings file.
-void save_custom_colors(const AppSettings &settings);
-
 }  // namespace quindar

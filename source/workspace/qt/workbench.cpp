@@ -4,7 +4,6 @@
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
-#include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -12,10 +11,11 @@
 #include <QKeyEvent>
 #include <QProcess>
 
+#include "calculator_bar.h"
 #include "calculus_tools.h"
 #include "client_tools.h"
-#include "calculator_bar.h"
 #include "command_table.h"
+#include "dialog_custom_colors.h"
 #include "document_area.h"
 #include "document_close_rules.h"
 #include "document_window.h"
@@ -93,23 +93,14 @@ Workbench::Workbench(AppServices &appServices, DesktopFolders desktopFolders)
     flatButtons = settings.FlatButtons();
     calculationMethod = settings.CalculationMethod();
     useSquareBrackets = settings.UseSquareFunctionBrackets();
-    for (int n = 1; n <= settings::kCustomColorCount; ++n) {
-        const TColor color = settings.CustomColor(n);
-        QColorDialog::setCustomColor(n - 1, QColor(color.Red(), color.Green(), color.Blue()));
-    }
+    load_custom_colors(settings);
     InstallCalculusTools(*this);
     InstallCalculatorBar(*this);
 }
 
 Workbench::~Workbench() {
     closing = true;
-    const AppSettings settings = Settings();
-    for (int n = 1; n <= settings::kCustomColorCount; ++n) {
-        const QColor color = QColorDialog::customColor(n - 1);
-        settings.SetCustomColor(n, TColor(static_cast<std::uint8_t>(color.red()),
-                                          static_cast<std::uint8_t>(color.green()),
-                                          static_cast<std::uint8_t>(color.blue())));
-    }
+    save_custom_colors(Settings());
     frame.reset();
 }
 
