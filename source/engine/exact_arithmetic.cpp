@@ -16,6 +16,9 @@ __extension__ typedef unsigned __int128 Wide;
 
 constexpr int kOperandDigits = 14;
 constexpr int kResultDigits = 15;
+// The decades of the magnitudes an operand is written from digits: 1e-9 up to below 1e14.
+constexpr int kLowestOperandDecade = -9;
+constexpr int kHighestOperandDecade = 13;
 // 10^38 is the last power of ten below 2^128.
 constexpr int kWidestPower = 38;
 
@@ -139,6 +142,33 @@ bool value_of(const Decimal &number, double &result) {
     }
     if (!decimal_passage::read_digits(x.negative, x.coefficient, x.exponent, wide)) return false;
     result = static_cast<double>(wide);
+    return true;
+}
+
+bool operand_of_result(const Decimal &result, Decimal &operand) {
+    if (result.coefficient == 0) {
+        operand = Decimal{};
+        return true;
+    }
+    const int digits = digit_count(result.coefficient);
+    const int decade = digits - 1 + result.exponent;
+    if (digits > kResultDigits || decade < kLowestOperandDecade || decade > kHighestOperandDecade)
+        return false;
+    if (digits <= kOperandDigits) {
+        operand = result;
+        return true;
+    }
+    // The double read from a 15-digit result lies within 2^-53 of it relatively, the nearest
+    // boundary of a 14-digit rounding other than a tie at least 10^-15 away: both round alike.
+    const std::uint64_t kept = result.coefficient / 10;
+    const std::uint64_t dropped = result.coefficient % 10;
+    if (dropped == 5) return false;
+    operand = Decimal{result.negative, dropped > 5 ? kept + 1 : kept, result.exponent + 1};
+    // A carry out of the 14th digit: the operators take at most 14 digits.
+    if (operand.coefficient == static_cast<std::uint64_t>(power_of_ten(kOperandDigits))) {
+        operand.coefficient /= 10;
+        ++operand.exponent;
+    }
     return true;
 }
 

@@ -1,0 +1,278 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Quindar developers
+// One run of a map on its fast road: literals, variables and the four operators in line,
+// everything else through the instruction table.
+#include "map_program.h"
+
+#include <bit>
+
+#include "equation.h"
+#include "map_solver.h"
+#include "parser.h"
+#include "variable.h"
+
+namespace quindar {
+
+namespace {
+
+bool same_bits(double a, double b) {
+    return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
+}
+
+const complex kNoVariable{};
+
+}  // namespace
+
+MapProgram::MapProgram(const Equation &map)
+    : instruction_count_(map.instructions.size()),
+      literal_count_(map.literals.size()),
+      name_count_(map.names.size()) {
+    steps_.reserve(map.instructions.size());
+    for (const Instruction op : map.instructions) {
+        switch (op) {
+            case Instruction::Literal:
+                steps_.push_back(Step::Literal);
+                break;
+            case Instruction::Variable:
+                steps_.push_back(Step::Variable);
+                break;
+            case Instruction::Add:
+                steps_.push_back(Step::Add);
+                break;
+            case Instruction::Subtract:
+                steps_.push_back(Step::Subtract);
+                break;
+            case Instruction::Multiply:
+                steps_.push_back(Step::Multiply);
+                break;
+            case Instruction::Divide:
+                steps_.push_back(Step::Divide);
+                break;
+            case Instruction::Negate:
+                steps_.push_back(Step::Negate);
+                break;
+            default:
+                steps_.push_back(Step::Other);
+                break;
+        }
+    }
+    literals_.resize(map.literals.size());
+    variables_.resize(map.instructions.size());
+    exact_.reserve(16);
+    stack_storage_.reserve(16);
+}
+
+bool MapProgram::fits(const Equation &map) const {
+    return map.instructions.size() == instruction_count_ && map.literals.size() == literal_count_ &&
+           map.names.size() == name_count_;
+}
+
+bool MapProgram::run(Parser &p, MapRun &run) {
+    exact_.clear();
+    const Instruction *ops = run.equation.instructions.data();
+    for (std::size_t k = 0; k < steps_.size(); ++k) {
+        bool goes_on = true;
+        switch (steps_[k]) {
+            case Step::Literal:
+                push_literal(run);
+                break;
+            case Step::Variable:
+                run.stack.push_back(variable_value(p, run.next_name(), variables_[k]));
+                exact_.push_back(Exact{});
+                break;
+            case Step::Add:
+            case Step::Subtract:
+            case Step::Multiply:
+            case Step::Divide:
+                if (run.stack.size() < 2) {
+                    if (!other(p, run, ops[k])) return false;
+                    goes_on = !p.IsAnError();
+                } else if (!exact_binary(run, steps_[k])) {
+                    goes_on = worker_binary(p, run, steps_[k]);
+                }
+                break;
+            case Step::Negate:
+                if (run.stack.empty()) {
+                    if (!other(p, run, ops[k])) return false;
+                    goes_on = !p.IsAnError();
+                } else {
+                    negate(run);
+                }
+                break;
+            case Step::Other:
+                if (!other(p, run, ops[k])) return false;
+                goes_on = !p.IsAnError();
+                break;
+        }
+        if (!goes_on) break;
+    }
+    if (!run.stack.empty()) settle(run, run.stack.size() - 1);
+    return true;
+}
+
+void MapProgram::push_literal(MapRun &run) {
+    const std::size_t index = run.literal;
+    const complex value = run.next_literal();
+    run.stack.push_back(value);
+    Exact state;
+    if (index < literals_.size()) {
+        // The form is made again only when the literal changed since it was made.
+        Literal &literal = literals_[index];
+        if (!literal.made || !same_bits(literal.value, value.real)) {
+            literal.value = value.real;
+            literal.exact = exact::operand(value.real, literal.operand);
+            literal.made = true;
+        }
+        if (literal.exact && value.imag == 0) {
+            state.operand = literal.operand;
+            state.state = Exact::Known;
+        }
+    }
+    exact_.push_back(state);
+}
+
+const complex &MapProgram::variable_value(Parser &p, const char *name, VariableSlot &cache) {
+    DynArray<Variable, 10> &variables = p.variables;
+    // Where the variable stood, while the list neither moved nor grew; the look-up would
+    // find the same slot and leave the cursor on it.
+    if (cache.slot >= 0 && cache.layout == variables.layout() && cache.count == variables.count() &&
+        cache.slot < variables.size()) {
+        if (const Variable *v = variables[cache.slot]; v != nullptr && v->name == name) {
+            variables.reset(cache.slot);
+            return v->value;
+        }
+    }
+    const int slot = p.find_variable(name);
+    if (slot < 0) {
+        cache.slot = -1;
+        return kNoVariable;
+    }
+    cache = VariableSlot{variables.layout(), variables.count(), slot};
+    return variables[slot]->value;
+}
+
+bool MapProgram::operand_of(MapRun &run, std::size_t k) {
+    Exact &e = exact_[k];
+    if (e.state != Exact::Unknown) return e.state != Exact::Inexact;
+    const complex &v = run.stack[k];
+    if (v.imag != 0) {
+        e.state = Exact::Inexact;
+        return false;
+    }
+    if (last_valid_ && same_bits(v.real, last_converted_)) {
+        e.operand = last_operand_;
+    } else if (exact::operand(v.real, e.operand)) {
+        last_converted_ = v.real;
+        last_operand_ = e.operand;
+        last_valid_ = true;
+    } else {
+        e.state = Exact::Inexact;
+        return false;
+    }
+    e.state = Exact::Known;
+    return true;
+}
+
+void MapProgram::settle(MapRun &run, std::size_t k) {
+    Exact &e = exact_[k];
+    if (e.state != Exact::Pending) return;
+    // A pending result lies in the operand range, where its digits are always read.
+    double value = 0;
+    exact::value_of(e.result, value);
+    run.stack[k] = complex{value, 0.0};
+    e.state = Exact::Known;
+}
+
+void MapProgram::settle_all(MapRun &run) {
+    for (std::size_t k = 0; k < run.stack.size(); ++k) settle(run, k);
+}
+
+bool MapProgram::exact_binary(MapRun &run, Step step) {
+    const std::size_t b = run.stack.size() - 1, a = b - 1;
+    if (!operand_of(run, a) || !operand_of(run, b)) return false;
+    exact::Decimal x = exact_[a].operand, y = exact_[b].operand, r;
+    bool decided = false;
+    switch (step) {
+        case Step::Subtract:
+            y.negative = !y.negative;
+            decided = exact::add(x, y, r);
+            break;
+        case Step::Add:
+            decided = exact::add(x, y, r);
+            break;
+        case Step::Multiply:
+            decided = exact::multiply(x, y, r);
+            break;
+        default:
+            decided = exact::divide(x, y, r);
+            break;
+    }
+    if (!decided) return false;
+    Exact &out = exact_[a];
+    if (exact::operand_of_result(r, out.operand)) {
+        out.result = r;
+        out.state = Exact::Pending;
+    } else {
+        // A tie, or a result beyond the operand range: its double decides what comes next.
+        double value = 0;
+        if (!exact::value_of(r, value)) return false;
+        run.stack[a] = complex{value, 0.0};
+        out.state = Exact::Unknown;
+    }
+    run.stack.pop_back();
+    exact_.pop_back();
+    return true;
+}
+
+bool MapProgram::worker_binary(Parser &p, MapRun &run, Step step) {
+    const std::size_t b = run.stack.size() - 1, a = b - 1;
+    settle(run, a);
+    settle(run, b);
+    const complex &x = run.stack[a], &y = run.stack[b];
+    complex result;
+    switch (step) {
+        case Step::Add:
+            result = p.complex_add(x, y);
+            break;
+        case Step::Subtract:
+            result = p.complex_sub(x, y);
+            break;
+        case Step::Multiply:
+            result = p.complex_mult(x, y);
+            break;
+        default:
+            result = p.complex_div(x, y);
+            break;
+    }
+    run.stack.pop_back();
+    exact_.pop_back();
+    run.stack[a] = result;
+    exact_[a] = Exact{};
+    return !p.IsAnError();
+}
+
+void MapProgram::negate(MapRun &run) {
+    const std::size_t k = run.stack.size() - 1;
+    // The sign goes on the double as the evaluator puts it, negative zeros included.
+    settle(run, k);
+    complex &v = run.stack[k];
+    v = complex{-v.real, -v.imag};
+    Exact &e = exact_[k];
+    if (e.state == Exact::Known && e.operand.coefficient != 0)
+        e.operand.negative = !e.operand.negative;
+}
+
+bool MapProgram::other(Parser &p, MapRun &run, Instruction op) {
+    settle_all(run);
+    const std::size_t before = run.stack.size();
+    if (!MapSolver::execute(p, run, op)) return false;
+    // The instruction replaced its operands by its value; what lies below them is unchanged.
+    const MapInstructionRow *row = MapSolver::row(op);
+    const std::size_t operands = row != nullptr ? row->operands : 0;
+    const std::size_t first = before >= operands ? before - operands : 0;
+    exact_.resize(run.stack.size());
+    for (std::size_t k = first; k < exact_.size(); ++k) exact_[k] = Exact{};
+    return true;
+}
+
+}  // namespace quindar
