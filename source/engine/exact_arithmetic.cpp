@@ -35,14 +35,28 @@ Wide power_of_ten(int k) {
     return kPowers.value[k];
 }
 
-// Decimal digits of n, at least 1.
+// 10^k for k = 0 .. 19, the powers of ten a machine word holds.
+struct WordPowers {
+    std::uint64_t value[20];
+    constexpr WordPowers() : value() {
+        std::uint64_t power = 1;
+        for (int k = 0; k < 20; ++k, power *= 10) value[k] = power;
+    }
+};
+constexpr WordPowers kWordPowers;
+
+// Decimal digits of n, at least 1. From the bit length b, t = b * log10(2) (1233 / 4096 lies
+// just below it): n has t digits or, from 10^t on, t + 1.
+int digit_count(std::uint64_t n) {
+    const int t = (64 - __builtin_clzll(n | 1)) * 1233 >> 12;
+    return std::max(t + (n >= kWordPowers.value[t] ? 1 : 0), 1);
+}
+
 int digit_count(Wide n) {
     const auto high = static_cast<std::uint64_t>(n >> 64);
-    const int bits = high != 0 ? 128 - __builtin_clzll(high)
-                               : 64 - __builtin_clzll(static_cast<std::uint64_t>(n) | 1);
-    // t = bits * log10(2), 1233 / 4096 just below it: n has t digits or, from 10^t on, t + 1.
-    const int t = bits * 1233 >> 12;
-    return n >= kPowers.value[t] ? t + 1 : std::max(t, 1);
+    if (high == 0) return digit_count(static_cast<std::uint64_t>(n));
+    const int t = (128 - __builtin_clzll(high)) * 1233 >> 12;
+    return n >= kPowers.value[t] ? t + 1 : t;
 }
 
 // Division of a 128-bit value by a power of ten that fits 64 bits, in two machine divisions.
@@ -53,8 +67,9 @@ Wide divide_by(Wide n, std::uint64_t divisor, std::uint64_t &remainder) {
         remainder = low % divisor;
         return low / divisor;
     }
-    const std::uint64_t high_quotient = high / divisor;
-    std::uint64_t rest = high % divisor;
+    // With high < divisor the quotient fits 64 bits and one machine division gives it.
+    const std::uint64_t high_quotient = high < divisor ? 0 : high / divisor;
+    std::uint64_t rest = high < divisor ? high : high % divisor;
     std::uint64_t low_quotient;
     // rest < divisor, so the quotient of rest * 2^64 + low fits 64 bits.
     __asm__("divq %[d]" : "=a"(low_quotient), "=d"(rest) : [d] "r"(divisor), "a"(low), "d"(rest));

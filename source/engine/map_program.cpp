@@ -21,6 +21,14 @@ bool same_bits(double a, double b) {
 
 const complex kNoVariable{};
 
+// Names are short: a loop beats a call of the library's compare.
+bool same_name(const std::string &a, const std::string &b) {
+    if (a.size() != b.size()) return false;
+    for (std::size_t k = 0; k < a.size(); ++k)
+        if (a[k] != b[k]) return false;
+    return true;
+}
+
 }  // namespace
 
 MapProgram::MapProgram(const Equation &map)
@@ -51,6 +59,9 @@ MapProgram::MapProgram(const Equation &map)
             case Instruction::Negate:
                 steps_.push_back(Step::Negate);
                 break;
+            case Instruction::End:
+                steps_.push_back(Step::End);
+                break;
             default:
                 steps_.push_back(Step::Other);
                 break;
@@ -77,8 +88,10 @@ bool MapProgram::run(Parser &p, MapRun &run) {
                 push_literal(run);
                 break;
             case Step::Variable:
-                run.stack.push_back(variable_value(p, run.next_name(), variables_[k]));
-                exact_.push_back(Exact{});
+                run.stack.push_back(variable_value(p, run, variables_[k]));
+                exact_.emplace_back();
+                break;
+            case Step::End:
                 break;
             case Step::Add:
             case Step::Subtract:
@@ -114,7 +127,8 @@ void MapProgram::push_literal(MapRun &run) {
     const std::size_t index = run.literal;
     const complex value = run.next_literal();
     run.stack.push_back(value);
-    Exact state;
+    // Written in place: a copied record would be read back before its parts are stored.
+    Exact &state = exact_.emplace_back();
     if (index < literals_.size()) {
         // The form is made again only when the literal changed since it was made.
         Literal &literal = literals_[index];
@@ -128,21 +142,23 @@ void MapProgram::push_literal(MapRun &run) {
             state.state = Exact::Known;
         }
     }
-    exact_.push_back(state);
 }
 
-const complex &MapProgram::variable_value(Parser &p, const char *name, VariableSlot &cache) {
+const complex &MapProgram::variable_value(Parser &p, MapRun &run, VariableSlot &cache) {
+    const std::vector<std::string> &names = run.equation.names;
+    if (run.name >= names.size()) return kNoVariable;
+    const std::string &name = names[run.name++];
     DynArray<Variable, 10> &variables = p.variables;
     // Where the variable stood, while the list neither moved nor grew; the look-up would
     // find the same slot and leave the cursor on it.
     if (cache.slot >= 0 && cache.layout == variables.layout() && cache.count == variables.count() &&
         cache.slot < variables.size()) {
-        if (const Variable *v = variables[cache.slot]; v != nullptr && v->name == name) {
+        if (const Variable *v = variables[cache.slot]; v != nullptr && same_name(v->name, name)) {
             variables.reset(cache.slot);
             return v->value;
         }
     }
-    const int slot = p.find_variable(name);
+    const int slot = p.find_variable(name.c_str());
     if (slot < 0) {
         cache.slot = -1;
         return kNoVariable;
@@ -190,7 +206,11 @@ void MapProgram::settle_all(MapRun &run) {
 bool MapProgram::exact_binary(MapRun &run, Step step) {
     const std::size_t b = run.stack.size() - 1, a = b - 1;
     if (!operand_of(run, a) || !operand_of(run, b)) return false;
-    exact::Decimal x = exact_[a].operand, y = exact_[b].operand, r;
+    Exact &out = exact_[a];
+    const exact::Decimal x = out.operand;
+    exact::Decimal y = exact_[b].operand;
+    // The result goes straight to its slot; it counts only once the state says so.
+    exact::Decimal &r = out.result;
     bool decided = false;
     switch (step) {
         case Step::Subtract:
@@ -208,9 +228,7 @@ bool MapProgram::exact_binary(MapRun &run, Step step) {
             break;
     }
     if (!decided) return false;
-    Exact &out = exact_[a];
     if (exact::operand_of_result(r, out.operand)) {
-        out.result = r;
         out.state = Exact::Pending;
     } else {
         // A tie, or a result beyond the operand range: its double decides what comes next.

@@ -42,6 +42,7 @@ private:
         Multiply,
         Divide,
         Negate,
+        End,
         Other
     };
     // A literal's 14-digit form, made again only when the literal changes.
@@ -71,7 +72,8 @@ private:
     };
 
     void push_literal(MapRun &run);
-    const complex &variable_value(Parser &p, const char *name, VariableSlot &cache);
+    // The value of the variable the next name stands for, 0 for none, as the table reads it.
+    const complex &variable_value(Parser &p, MapRun &run, VariableSlot &cache);
     bool operand_of(MapRun &run, std::size_t k);
     void settle(MapRun &run, std::size_t k);
     void settle_all(MapRun &run);
