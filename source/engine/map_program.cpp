@@ -209,8 +209,9 @@ bool MapProgram::exact_binary(MapRun &run, Step step) {
     Exact &out = exact_[a];
     const exact::Decimal x = out.operand;
     exact::Decimal y = exact_[b].operand;
-    // The result goes straight to its slot; it counts only once the state says so.
-    exact::Decimal &r = out.result;
+    // Not yet in the slot: a pending left operand still needs its own result if the
+    // decimals do not decide this one.
+    exact::Decimal r;
     bool decided = false;
     switch (step) {
         case Step::Subtract:
@@ -229,6 +230,7 @@ bool MapProgram::exact_binary(MapRun &run, Step step) {
     }
     if (!decided) return false;
     if (exact::operand_of_result(r, out.operand)) {
+        out.result = r;
         out.state = Exact::Pending;
     } else {
         // A tie, or a result beyond the operand range: its double decides what comes next.
