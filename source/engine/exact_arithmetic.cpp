@@ -187,11 +187,13 @@ bool operand_of_result(const Decimal &result, Decimal &operand) {
     return true;
 }
 
-bool add(const Decimal &a, const Decimal &b, Decimal &result) {
-    if (a.coefficient == 0 || b.coefficient == 0) {
-        const Decimal &x = a.coefficient == 0 ? b : a;
-        return round_to_result(x.negative, x.coefficient, x.exponent, result);
-    }
+namespace {
+
+// a + b, or a - b with `negate_b`, rounded once.
+bool signed_sum(const Decimal &a, const Decimal &b, bool negate_b, Decimal &result) {
+    const bool negative_b = b.negative != negate_b;
+    if (a.coefficient == 0) return round_to_result(negative_b, b.coefficient, b.exponent, result);
+    if (b.coefficient == 0) return round_to_result(a.negative, a.coefficient, a.exponent, result);
     Wide x, y;
     int ex, ey;
     normalise(a, x, ex);
@@ -200,8 +202,18 @@ bool add(const Decimal &a, const Decimal &b, Decimal &result) {
     // of the 15th digit of the larger, even where the difference drops below a power of
     // ten, and the larger (14 digits) is the result.
     if (ex - ey >= 17) return round_to_result(a.negative, x, ex, result);
-    if (ey - ex >= 17) return round_to_result(b.negative, y, ey, result);
-    return sum_to_result(a.negative, x, ex, b.negative, y, ey, result);
+    if (ey - ex >= 17) return round_to_result(negative_b, y, ey, result);
+    return sum_to_result(a.negative, x, ex, negative_b, y, ey, result);
+}
+
+}  // namespace
+
+bool add(const Decimal &a, const Decimal &b, Decimal &result) {
+    return signed_sum(a, b, false, result);
+}
+
+bool subtract(const Decimal &a, const Decimal &b, Decimal &result) {
+    return signed_sum(a, b, true, result);
 }
 
 bool multiply(const Decimal &a, const Decimal &b, Decimal &result) {

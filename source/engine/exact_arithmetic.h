@@ -38,6 +38,7 @@ bool operand_of_result(const Decimal &result, Decimal &operand);
 
 // Results rounded to 15 significant digits, ties away from zero.
 bool add(const Decimal &a, const Decimal &b, Decimal &result);
+bool subtract(const Decimal &a, const Decimal &b, Decimal &result);
 bool multiply(const Decimal &a, const Decimal &b, Decimal &result);
 bool divide(const Decimal &a, const Decimal &b, Decimal &result);
 

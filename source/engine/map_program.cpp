@@ -207,19 +207,18 @@ bool MapProgram::exact_binary(MapRun &run, Step step) {
     const std::size_t b = run.stack.size() - 1, a = b - 1;
     if (!operand_of(run, a) || !operand_of(run, b)) return false;
     Exact &out = exact_[a];
-    const exact::Decimal x = out.operand;
-    exact::Decimal y = exact_[b].operand;
-    // Not yet in the slot: a pending left operand still needs its own result if the
-    // decimals do not decide this one.
-    exact::Decimal r;
+    const exact::Decimal &x = out.operand, &y = exact_[b].operand;
+    // Straight into the slot, unless a pending left operand must keep its digits for the
+    // worker in case the decimals do not decide this result.
+    exact::Decimal kept;
+    exact::Decimal &r = out.state == Exact::Pending ? kept : out.result;
     bool decided = false;
     switch (step) {
-        case Step::Subtract:
-            y.negative = !y.negative;
-            decided = exact::add(x, y, r);
-            break;
         case Step::Add:
             decided = exact::add(x, y, r);
+            break;
+        case Step::Subtract:
+            decided = exact::subtract(x, y, r);
             break;
         case Step::Multiply:
             decided = exact::multiply(x, y, r);
@@ -230,7 +229,7 @@ bool MapProgram::exact_binary(MapRun &run, Step step) {
     }
     if (!decided) return false;
     if (exact::operand_of_result(r, out.operand)) {
-        out.result = r;
+        if (&r != &out.result) out.result = r;
         out.state = Exact::Pending;
     } else {
         // A tie, or a result beyond the operand range: its double decides what comes next.
