@@ -62,6 +62,9 @@ MapProgram::MapProgram(const Equation &map)
             case Instruction::End:
                 steps_.push_back(Step::End);
                 break;
+            case Instruction::Sqrt:
+                steps_.push_back(Step::Sqrt);
+                break;
             default:
                 steps_.push_back(Step::Other);
                 break;
@@ -110,6 +113,12 @@ bool MapProgram::run(Parser &p, MapRun &run) {
                     goes_on = !p.IsAnError();
                 } else {
                     negate(run);
+                }
+                break;
+            case Step::Sqrt:
+                if (run.stack.empty() || !exact_sqrt(run)) {
+                    if (!other(p, run, ops[k])) return false;
+                    goes_on = !p.IsAnError();
                 }
                 break;
             case Step::Other:
@@ -240,6 +249,27 @@ bool MapProgram::exact_binary(MapRun &run, Step step) {
     }
     run.stack.pop_back();
     exact_.pop_back();
+    return true;
+}
+
+bool MapProgram::exact_sqrt(MapRun &run) {
+    const std::size_t k = run.stack.size() - 1;
+    if (!operand_of(run, k)) return false;
+    Exact &e = exact_[k];
+    // The root of |x|, standing in the imaginary part for a negative x, as the worker has it.
+    exact::Decimal magnitude = e.operand, root;
+    const bool negative = magnitude.negative;
+    magnitude.negative = false;
+    if (!exact::square_root(magnitude, root)) return false;
+    if (!negative && exact::operand_of_result(root, e.operand)) {
+        e.result = root;
+        e.state = Exact::Pending;
+        return true;
+    }
+    double value = 0;
+    if (!exact::value_of(root, value)) return false;
+    run.stack[k] = negative ? complex{0.0, value} : complex{value, 0.0};
+    e.state = Exact::Unknown;
     return true;
 }
 

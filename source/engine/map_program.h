@@ -43,6 +43,7 @@ private:
         Divide,
         Negate,
         End,
+        Sqrt,
         Other
     };
     // A literal's 14-digit form, made again only when the literal changes.
@@ -80,6 +81,8 @@ private:
     // The result of an operator from its operands' decimals; false where the decimals do not
     // decide it and the operator's worker must run.
     bool exact_binary(MapRun &run, Step step);
+    // The square root from the operand's decimal; false where the worker must run.
+    bool exact_sqrt(MapRun &run);
     // The operator's worker on the doubles; false when it raised.
     bool worker_binary(Parser &p, MapRun &run, Step step);
     void negate(MapRun &run);
