@@ -38,6 +38,29 @@ void BM_complex_div_real(benchmark::State &state) {
 }
 BENCHMARK(BM_complex_div_real);
 
+// The same operators on reals, as the maps of graphs mostly meet them.
+void BM_real_add(benchmark::State &state) {
+    quindar::Mathematics math;
+    complex a{1.234567890123, 0};
+    const complex b{9.87654321, 0};
+    for (auto _ : state) benchmark::DoNotOptimize(a = math.complex_add(a, b));
+}
+BENCHMARK(BM_real_add);
+
+void BM_real_mult(benchmark::State &state) {
+    quindar::Mathematics math;
+    const complex a{1.234567890123, 0}, b{0.999999, 0};
+    for (auto _ : state) benchmark::DoNotOptimize(math.complex_mult(a, b));
+}
+BENCHMARK(BM_real_mult);
+
+void BM_real_div(benchmark::State &state) {
+    quindar::Mathematics math;
+    const complex a{1.234567890123, 0}, b{3.7, 0};
+    for (auto _ : state) benchmark::DoNotOptimize(math.complex_div(a, b));
+}
+BENCHMARK(BM_real_div);
+
 // Ten operators: sums, products, a quotient, a power, a comparison-free line.
 void BM_eval_exp_ten_operators(benchmark::State &state) {
     quindar::Parser parser("", "");
