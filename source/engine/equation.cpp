@@ -33,9 +33,9 @@ bool takes_name(Instruction op) {
 Equation::Equation() = default;
 Equation::~Equation() = default;
 
-std::shared_ptr<MapProgram> Equation::program() {
-    if (!program_ || !program_->fits(*this)) program_ = std::make_shared<MapProgram>(*this);
-    return program_;
+MapProgram &Equation::program() {
+    if (!program_ || !program_->fits(*this)) program_ = std::make_unique<MapProgram>(*this);
+    return *program_;
 }
 
 void Equation::set_instruction(Instruction op, complex value, const char *text) {

@@ -178,9 +178,9 @@ public:
     bool complete() const {
         return !instructions.empty() && instructions.back() == Instruction::End;
     }
-    // The instructions read for fast solving: read again after any change of the map. Shared,
-    // so that a run keeps its program even if the run changes the map.
-    std::shared_ptr<MapProgram> program();
+    // The instructions read for fast solving: read again after any change of the map (which
+    // a run of the map itself never makes).
+    MapProgram &program();
 
     int list_level = -1;
     DynArray<long double, 10> data_lists[kMapDataLists];
@@ -191,7 +191,7 @@ public:
     Equation *prev = nullptr;
 
 private:
-    std::shared_ptr<MapProgram> program_;
+    std::unique_ptr<MapProgram> program_;
 };
 
 }  // namespace quindar

@@ -8,6 +8,7 @@
 
 #include "equation.h"
 #include "map_solver.h"
+#include "name_index.h"
 #include "parser.h"
 #include "variable.h"
 
@@ -21,12 +22,12 @@ bool same_bits(double a, double b) {
 
 const complex kNoVariable{};
 
-// Names are short: a loop beats a call of the library's compare.
-bool same_name(const std::string &a, const std::string &b) {
-    if (a.size() != b.size()) return false;
-    for (std::size_t k = 0; k < a.size(); ++k)
-        if (a[k] != b[k]) return false;
-    return true;
+// Part by part: a whole-record copy reads its parts in one wide load, which stalls until the
+// separate stores that just wrote them have landed.
+void copy_decimal(exact::Decimal &to, const exact::Decimal &from) {
+    to.negative = from.negative;
+    to.coefficient = from.coefficient;
+    to.exponent = from.exponent;
 }
 
 }  // namespace
@@ -185,10 +186,10 @@ bool MapProgram::operand_of(MapRun &run, std::size_t k) {
         return false;
     }
     if (last_valid_ && same_bits(v.real, last_converted_)) {
-        e.operand = last_operand_;
+        copy_decimal(e.operand, last_operand_);
     } else if (exact::operand(v.real, e.operand)) {
         last_converted_ = v.real;
-        last_operand_ = e.operand;
+        copy_decimal(last_operand_, e.operand);
         last_valid_ = true;
     } else {
         e.state = Exact::Inexact;
@@ -238,7 +239,7 @@ bool MapProgram::exact_binary(MapRun &run, Step step) {
     }
     if (!decided) return false;
     if (exact::operand_of_result(r, out.operand)) {
-        if (&r != &out.result) out.result = r;
+        if (&r != &out.result) copy_decimal(out.result, r);
         out.state = Exact::Pending;
     } else {
         // A tie, or a result beyond the operand range: its double decides what comes next.
@@ -257,12 +258,13 @@ bool MapProgram::exact_sqrt(MapRun &run) {
     if (!operand_of(run, k)) return false;
     Exact &e = exact_[k];
     // The root of |x|, standing in the imaginary part for a negative x, as the worker has it.
-    exact::Decimal magnitude = e.operand, root;
+    exact::Decimal magnitude, root;
+    copy_decimal(magnitude, e.operand);
     const bool negative = magnitude.negative;
     magnitude.negative = false;
     if (!exact::square_root(magnitude, root)) return false;
     if (!negative && exact::operand_of_result(root, e.operand)) {
-        e.result = root;
+        copy_decimal(e.result, root);
         e.state = Exact::Pending;
         return true;
     }

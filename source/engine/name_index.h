@@ -21,6 +21,14 @@
 
 namespace quindar {
 
+// Names are short: comparing them in a loop beats a call of the library's compare.
+inline bool same_name(std::string_view a, std::string_view b) {
+    if (a.size() != b.size()) return false;
+    for (std::size_t k = 0; k < a.size(); ++k)
+        if (a[k] != b[k]) return false;
+    return true;
+}
+
 template <class T, int chunk>
 class NameIndex {
 public:
@@ -36,7 +44,7 @@ public:
         // while the array has neither moved nor grown.
         if (last_hit >= 0) {
             const T *element = array[last_hit];
-            if (element != nullptr && key_of(*element) == name) return last_hit;
+            if (element != nullptr && same_name(key_of(*element), name)) return last_hit;
         }
         const auto found = slot_of_name.find(name);
         if (found == slot_of_name.end()) return -1;

@@ -2,7 +2,6 @@
 // SPDX-FileCopyrightText: 2026 The Quindar developers
 // The maps of an engine by position, and the map solver: one pass over a map's
 // instructions on a stack of values, with no text read.
-#include <memory>
 #include <new>
 
 #include "evaluation_abort.h"
@@ -116,14 +115,14 @@ complex Parser::solve_equation(int map, bool /*restart*/, bool silentMode) {
         return complex{};
     }
     equation.clear_data();
-    const std::shared_ptr<MapProgram> program = equation.program();
+    MapProgram &program = equation.program();
     MapRun run(equation);
-    const StackLoan loan(run.stack, program->stack_storage());
+    const StackLoan loan(run.stack, program.stack_storage());
     SetSolvingMap(true);
     try {
         // A failed parameter test or a mapper error of the run returns 0 at once; a worker
         // that raised leaves its value on the top, as the run's result.
-        if (!program->run(*this, run)) return complex{};
+        if (!program.run(*this, run)) return complex{};
     } catch (const EvaluationAbort &) {
         // Only the containers can still jump here; their message is stored already.
         if (!IsAnError()) SetLastError(nullptr, -1);
