@@ -281,11 +281,6 @@ bool values(const Decimal &real, const Decimal &imag, complex &result) {
     return value_of(real, result.real) && value_of(imag, result.imag);
 }
 
-Decimal negated(Decimal x) {
-    x.negative = !x.negative;
-    return x;
-}
-
 // x * y + (negate ? -1 : 1) * u * v, exactly, rounded once.
 bool product_sum(const Decimal &x, const Decimal &y, bool negate, const Decimal &u,
                  const Decimal &v, Decimal &result) {
@@ -305,7 +300,7 @@ bool complex_add(const complex &a, const complex &b, complex &result) {
 
 bool complex_sub(const complex &a, const complex &b, complex &result) {
     Decimal p[4], real, imag;
-    return operands(a, b, p) && add(p[0], negated(p[2]), real) && add(p[1], negated(p[3]), imag) &&
+    return operands(a, b, p) && subtract(p[0], p[2], real) && subtract(p[1], p[3], imag) &&
            values(real, imag, result);
 }
 
