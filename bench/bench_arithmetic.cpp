@@ -38,6 +38,26 @@ void BM_complex_div_real(benchmark::State &state) {
 }
 BENCHMARK(BM_complex_div_real);
 
+// The same operators on reals, as the maps of graphs mostly meet them: + x / by argument.
+struct RealOperator {
+    const char *label;
+    complex (quindar::Mathematics::*operation)(const complex &, const complex &);
+    complex a, b;
+};
+const RealOperator kRealOperators[] = {
+    {"+", &quindar::Mathematics::complex_add, {1.234567890123, 0}, {9.87654321, 0}},
+    {"*", &quindar::Mathematics::complex_mult, {1.234567890123, 0}, {0.999999, 0}},
+    {"/", &quindar::Mathematics::complex_div, {1.234567890123, 0}, {3.7, 0}},
+};
+
+void BM_real_operator(benchmark::State &state) {
+    quindar::Mathematics math;
+    const RealOperator &row = kRealOperators[state.range(0)];
+    state.SetLabel(row.label);
+    for (auto _ : state) benchmark::DoNotOptimize((math.*row.operation)(row.a, row.b));
+}
+BENCHMARK(BM_real_operator)->DenseRange(0, 2);
+
 // Ten operators: sums, products, a quotient, a power, a comparison-free line.
 void BM_eval_exp_ten_operators(benchmark::State &state) {
     quindar::Parser parser("", "");

@@ -5,6 +5,8 @@
 // triple integral at two slider positions and a differentiation table.
 #include <benchmark/benchmark.h>
 
+#include <cmath>
+
 #include "calculus_runs.h"
 #include "differentiation_run.h"
 #include "integration_run.h"
@@ -41,6 +43,48 @@ void BM_integral(benchmark::State &state) {
     report(state, counter.pumps);
 }
 BENCHMARK(BM_integral)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+
+// The quarter circle of the command line's example at 1e-10: with the power (Arg 0), and with
+// the product in its place (Arg 1), which leaves the cost of everything but the power.
+constexpr const char *kQuarterCircles[] = {"SQRT[1-x^2]", "SQRT[1-x*x]"};
+
+void BM_integral_quarter_circle(benchmark::State &state) {
+    quindar::Parser parser("", "");
+    SampleCounter counter;
+    parser.set_computation_hooks(&counter);
+    const quindar::calculus::IntegralRequest request{kQuarterCircles[state.range(0)], "x", "0", "1",
+                                                     1e-10L};
+    for (auto _ : state)
+        benchmark::DoNotOptimize(quindar::calculus::Integrate(parser, request).value);
+    report(state, counter.pumps);
+    state.counters["samples"] =
+        static_cast<double>(counter.pumps) / static_cast<double>(state.iterations());
+}
+BENCHMARK(BM_integral_quarter_circle)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+
+// The peer: the same trapezoid refinements in plain double precision, to as many samples as
+// the integral above takes (2^16 + 1 for the power's road).
+void BM_integral_quarter_circle_double(benchmark::State &state) {
+    const int levels = static_cast<int>(state.range(0));
+    long samples = 0;
+    for (auto _ : state) {
+        double estimate = 0.5 * (1.0 + 0.0);
+        samples = 2;
+        for (int level = 2; level <= levels; ++level) {
+            const long points = 1L << (level - 2);
+            const double step = 1.0 / static_cast<double>(points);
+            double x = 0.5 * step, sum = 0;
+            for (long j = 0; j < points; ++j, x += step) sum += std::sqrt(1.0 - x * x);
+            estimate = 0.5 * (estimate + sum * step);
+            samples += points;
+        }
+        benchmark::DoNotOptimize(estimate);
+    }
+    state.counters["samples/s"] = benchmark::Counter(static_cast<double>(samples),
+                                                     benchmark::Counter::kIsIterationInvariantRate);
+    state.counters["samples"] = static_cast<double>(samples);
+}
+BENCHMARK(BM_integral_quarter_circle_double)->Arg(17)->Unit(benchmark::kMillisecond);
 
 void BM_derivative(benchmark::State &state) {
     quindar::Parser parser("", "");

@@ -3,6 +3,8 @@
 // Recording into an equation map.
 #include "equation.h"
 
+#include "map_program.h"
+
 namespace quindar {
 
 namespace {
@@ -28,7 +30,16 @@ bool takes_name(Instruction op) {
 
 }  // namespace
 
+Equation::Equation() = default;
+Equation::~Equation() = default;
+
+MapProgram &Equation::program() {
+    if (!program_ || !program_->fits(*this)) program_ = std::make_unique<MapProgram>(*this);
+    return *program_;
+}
+
 void Equation::set_instruction(Instruction op, complex value, const char *text) {
+    program_.reset();
     if (op != Instruction::FileName) instructions.push_back(op);
     if (op == Instruction::Literal) literals.push_back(value);
     if (text != nullptr && takes_name(op)) names.emplace_back(text);
@@ -40,6 +51,7 @@ void Equation::clear_data() {
 }
 
 void Equation::clear_instructions() {
+    program_.reset();
     instructions.clear();
     literals.clear();
     names.clear();

@@ -8,6 +8,7 @@
 // from its own list, so the three lists are read in step from the start and nothing jumps.
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,8 @@
 #include "dynarray.h"
 
 namespace quindar {
+
+class MapProgram;
 
 enum class Instruction : std::uint8_t {
     DeclareVariable = 0x00,
@@ -159,7 +162,8 @@ inline constexpr int kMapDataLists = 10;
 
 class Equation {
 public:
-    Equation() = default;
+    Equation();
+    ~Equation();
     Equation(const Equation &) = delete;
     Equation &operator=(const Equation &) = delete;
 
@@ -174,6 +178,9 @@ public:
     bool complete() const {
         return !instructions.empty() && instructions.back() == Instruction::End;
     }
+    // The instructions read for fast solving: read again after any change of the map (which
+    // a run of the map itself never makes).
+    MapProgram &program();
 
     int list_level = -1;
     DynArray<long double, 10> data_lists[kMapDataLists];
@@ -182,6 +189,9 @@ public:
     std::vector<std::string> names;
     Equation *next = nullptr;
     Equation *prev = nullptr;
+
+private:
+    std::unique_ptr<MapProgram> program_;
 };
 
 }  // namespace quindar

@@ -16,6 +16,9 @@ __extension__ typedef unsigned __int128 Wide;
 
 constexpr int kOperandDigits = 14;
 constexpr int kResultDigits = 15;
+// The decades of the magnitudes an operand is written from digits: 1e-9 up to below 1e14.
+constexpr int kLowestOperandDecade = -9;
+constexpr int kHighestOperandDecade = 13;
 // 10^38 is the last power of ten below 2^128.
 constexpr int kWidestPower = 38;
 
@@ -32,14 +35,28 @@ Wide power_of_ten(int k) {
     return kPowers.value[k];
 }
 
-// Decimal digits of n, at least 1.
+// 10^k for k = 0 .. 19, the powers of ten a machine word holds.
+struct WordPowers {
+    std::uint64_t value[20];
+    constexpr WordPowers() : value() {
+        std::uint64_t power = 1;
+        for (int k = 0; k < 20; ++k, power *= 10) value[k] = power;
+    }
+};
+constexpr WordPowers kWordPowers;
+
+// Decimal digits of n, at least 1. From the bit length b, t = b * log10(2) (1233 / 4096 lies
+// just below it): n has t digits or, from 10^t on, t + 1.
+int digit_count(std::uint64_t n) {
+    const int t = (64 - __builtin_clzll(n | 1)) * 1233 >> 12;
+    return std::max(t + (n >= kWordPowers.value[t] ? 1 : 0), 1);
+}
+
 int digit_count(Wide n) {
     const auto high = static_cast<std::uint64_t>(n >> 64);
-    const int bits = high != 0 ? 128 - __builtin_clzll(high)
-                               : 64 - __builtin_clzll(static_cast<std::uint64_t>(n) | 1);
-    // t = bits * log10(2), 1233 / 4096 just below it: n has t digits or, from 10^t on, t + 1.
-    const int t = bits * 1233 >> 12;
-    return n >= kPowers.value[t] ? t + 1 : std::max(t, 1);
+    if (high == 0) return digit_count(static_cast<std::uint64_t>(n));
+    const int t = (128 - __builtin_clzll(high)) * 1233 >> 12;
+    return n >= kPowers.value[t] ? t + 1 : t;
 }
 
 // Division of a 128-bit value by a power of ten that fits 64 bits, in two machine divisions.
@@ -50,8 +67,9 @@ Wide divide_by(Wide n, std::uint64_t divisor, std::uint64_t &remainder) {
         remainder = low % divisor;
         return low / divisor;
     }
-    const std::uint64_t high_quotient = high / divisor;
-    std::uint64_t rest = high % divisor;
+    // With high < divisor the quotient fits 64 bits and one machine division gives it.
+    const std::uint64_t high_quotient = high < divisor ? 0 : high / divisor;
+    std::uint64_t rest = high < divisor ? high : high % divisor;
     std::uint64_t low_quotient;
     // rest < divisor, so the quotient of rest * 2^64 + low fits 64 bits.
     __asm__("divq %[d]" : "=a"(low_quotient), "=d"(rest) : [d] "r"(divisor), "a"(low), "d"(rest));
@@ -142,11 +160,40 @@ bool value_of(const Decimal &number, double &result) {
     return true;
 }
 
-bool add(const Decimal &a, const Decimal &b, Decimal &result) {
-    if (a.coefficient == 0 || b.coefficient == 0) {
-        const Decimal &x = a.coefficient == 0 ? b : a;
-        return round_to_result(x.negative, x.coefficient, x.exponent, result);
+bool operand_of_result(const Decimal &result, Decimal &operand) {
+    if (result.coefficient == 0) {
+        operand = Decimal{};
+        return true;
     }
+    const int digits = digit_count(result.coefficient);
+    const int decade = digits - 1 + result.exponent;
+    if (digits > kResultDigits || decade < kLowestOperandDecade || decade > kHighestOperandDecade)
+        return false;
+    if (digits <= kOperandDigits) {
+        operand = result;
+        return true;
+    }
+    // The double read from a 15-digit result lies within 2^-53 of it relatively, the nearest
+    // boundary of a 14-digit rounding other than a tie at least 10^-15 away: both round alike.
+    const std::uint64_t kept = result.coefficient / 10;
+    const std::uint64_t dropped = result.coefficient % 10;
+    if (dropped == 5) return false;
+    operand = Decimal{result.negative, dropped > 5 ? kept + 1 : kept, result.exponent + 1};
+    // A carry out of the 14th digit: the operators take at most 14 digits.
+    if (operand.coefficient == static_cast<std::uint64_t>(power_of_ten(kOperandDigits))) {
+        operand.coefficient /= 10;
+        ++operand.exponent;
+    }
+    return true;
+}
+
+namespace {
+
+// a + b, or a - b with `negate_b`, rounded once.
+bool signed_sum(const Decimal &a, const Decimal &b, bool negate_b, Decimal &result) {
+    const bool negative_b = b.negative != negate_b;
+    if (a.coefficient == 0) return round_to_result(negative_b, b.coefficient, b.exponent, result);
+    if (b.coefficient == 0) return round_to_result(a.negative, a.coefficient, a.exponent, result);
     Wide x, y;
     int ex, ey;
     normalise(a, x, ex);
@@ -155,8 +202,18 @@ bool add(const Decimal &a, const Decimal &b, Decimal &result) {
     // of the 15th digit of the larger, even where the difference drops below a power of
     // ten, and the larger (14 digits) is the result.
     if (ex - ey >= 17) return round_to_result(a.negative, x, ex, result);
-    if (ey - ex >= 17) return round_to_result(b.negative, y, ey, result);
-    return sum_to_result(a.negative, x, ex, b.negative, y, ey, result);
+    if (ey - ex >= 17) return round_to_result(negative_b, y, ey, result);
+    return sum_to_result(a.negative, x, ex, negative_b, y, ey, result);
+}
+
+}  // namespace
+
+bool add(const Decimal &a, const Decimal &b, Decimal &result) {
+    return signed_sum(a, b, false, result);
+}
+
+bool subtract(const Decimal &a, const Decimal &b, Decimal &result) {
+    return signed_sum(a, b, true, result);
 }
 
 bool multiply(const Decimal &a, const Decimal &b, Decimal &result) {
@@ -224,11 +281,6 @@ bool values(const Decimal &real, const Decimal &imag, complex &result) {
     return value_of(real, result.real) && value_of(imag, result.imag);
 }
 
-Decimal negated(Decimal x) {
-    x.negative = !x.negative;
-    return x;
-}
-
 // x * y + (negate ? -1 : 1) * u * v, exactly, rounded once.
 bool product_sum(const Decimal &x, const Decimal &y, bool negate, const Decimal &u,
                  const Decimal &v, Decimal &result) {
@@ -248,7 +300,7 @@ bool complex_add(const complex &a, const complex &b, complex &result) {
 
 bool complex_sub(const complex &a, const complex &b, complex &result) {
     Decimal p[4], real, imag;
-    return operands(a, b, p) && add(p[0], negated(p[2]), real) && add(p[1], negated(p[3]), imag) &&
+    return operands(a, b, p) && subtract(p[0], p[2], real) && subtract(p[1], p[3], imag) &&
            values(real, imag, result);
 }
 

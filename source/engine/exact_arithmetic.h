@@ -30,9 +30,15 @@ struct Decimal {
 bool operand(double value, Decimal &result);
 // The double that reading the result's 15-digit text gives.
 bool value_of(const Decimal &number, double &result);
+// The operand the next operation takes from a result: what `operand` gives for the double
+// that `value_of` reads from it, found on the digits alone. False at a tie of the 14th digit,
+// where only that double decides the rounding, and outside the magnitudes `operand` writes
+// from digits (1e-9 to 1e14).
+bool operand_of_result(const Decimal &result, Decimal &operand);
 
 // Results rounded to 15 significant digits, ties away from zero.
 bool add(const Decimal &a, const Decimal &b, Decimal &result);
+bool subtract(const Decimal &a, const Decimal &b, Decimal &result);
 bool multiply(const Decimal &a, const Decimal &b, Decimal &result);
 bool divide(const Decimal &a, const Decimal &b, Decimal &result);
 

@@ -21,6 +21,14 @@
 
 namespace quindar {
 
+// Names are short: comparing them in a loop beats a call of the library's compare.
+inline bool same_name(std::string_view a, std::string_view b) {
+    if (a.size() != b.size()) return false;
+    for (std::size_t k = 0; k < a.size(); ++k)
+        if (a[k] != b[k]) return false;
+    return true;
+}
+
 template <class T, int chunk>
 class NameIndex {
 public:
@@ -32,10 +40,16 @@ public:
     // The first filled slot whose element's name is exactly `name`, or -1.
     int find(const DynArray<T, chunk> &array, const std::string &name) {
         follow(array);
+        // A computation asks for the same name point after point: the last hit answers
+        // while the array has neither moved nor grown.
+        if (last_hit >= 0) {
+            const T *element = array[last_hit];
+            if (element != nullptr && same_name(key_of(*element), name)) return last_hit;
+        }
         const auto found = slot_of_name.find(name);
         if (found == slot_of_name.end()) return -1;
         const T *element = array[found->second];
-        if (element != nullptr && key_of(*element) == name) return found->second;
+        if (element != nullptr && key_of(*element) == name) return last_hit = found->second;
         // Changed behind the array's back: read the array afresh once.
         rebuild(array);
         const auto again = slot_of_name.find(name);
@@ -44,6 +58,7 @@ public:
 
 private:
     void follow(const DynArray<T, chunk> &array) {
+        if (array.layout() != layout || !dense || array.count() != indexed) last_hit = -1;
         if (array.layout() != layout || !dense || array.count() < indexed) {
             rebuild(array);
             return;
@@ -74,6 +89,7 @@ private:
     std::uint64_t layout = ~std::uint64_t{0};
     int indexed = 0;
     bool dense = false;
+    int last_hit = -1;
 };
 
 }  // namespace quindar

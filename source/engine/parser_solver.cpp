@@ -5,6 +5,7 @@
 #include <new>
 
 #include "evaluation_abort.h"
+#include "map_program.h"
 #include "map_solver.h"
 #include "mapm_complex.h"
 #include "parser.h"
@@ -38,6 +39,24 @@ private:
     Parser &parser_;
     bool &map_run_;
     bool outer_ = false;
+};
+
+// The run's stack borrows the program's storage and gives it back emptied, so a run allocates
+// nothing once the program has seen its deepest stack.
+class StackLoan {
+public:
+    StackLoan(std::vector<complex> &stack, std::vector<complex> &storage)
+        : stack_(stack), storage_(storage) {
+        stack_.swap(storage_);
+        stack_.clear();
+    }
+    ~StackLoan() { stack_.swap(storage_); }
+    StackLoan(const StackLoan &) = delete;
+    StackLoan &operator=(const StackLoan &) = delete;
+
+private:
+    std::vector<complex> &stack_;
+    std::vector<complex> &storage_;
 };
 
 }  // namespace
@@ -96,16 +115,14 @@ complex Parser::solve_equation(int map, bool /*restart*/, bool silentMode) {
         return complex{};
     }
     equation.clear_data();
+    MapProgram &program = equation.program();
     MapRun run(equation);
-    run.stack.reserve(16);
+    const StackLoan loan(run.stack, program.stack_storage());
     SetSolvingMap(true);
     try {
-        for (const Instruction op : equation.instructions) {
-            // A failed parameter test or a mapper error of the run returns 0 at once; a
-            // worker that raised leaves its value on the top, as the run's result.
-            if (!MapSolver::execute(*this, run, op)) return complex{};
-            if (IsAnError()) break;
-        }
+        // A failed parameter test or a mapper error of the run returns 0 at once; a worker
+        // that raised leaves its value on the top, as the run's result.
+        if (!program.run(*this, run)) return complex{};
     } catch (const EvaluationAbort &) {
         // Only the containers can still jump here; their message is stored already.
         if (!IsAnError()) SetLastError(nullptr, -1);

@@ -72,8 +72,12 @@ TEST_P(NameIndexAgainstScan, AgreesAfterEveryOperation) {
                 array.Delete(pick(size));
                 break;
         }
+        // The name asked last before the operation first, then each name twice: a name
+        // asked again is answered from the last hit.
+        ASSERT_EQ(index.find(array, "n39"), scan(array, "n39")) << "step " << step;
         for (int n = 0; n < 40; ++n) {
             const std::string name = "n" + std::to_string(n);
+            ASSERT_EQ(index.find(array, name), scan(array, name)) << "step " << step << " " << name;
             ASSERT_EQ(index.find(array, name), scan(array, name)) << "step " << step << " " << name;
         }
     }
@@ -91,6 +95,19 @@ TEST(NameIndex, ARenameInPlaceCountsOnceTheArrayIsTouched) {
     EXPECT_EQ(index.find(array, "b"), -1);  // the hit is checked against the element
     array.touch();
     EXPECT_EQ(index.find(array, "c"), 1);
+}
+
+TEST(NameIndex, AnAddInAnEarlierGapOutranksTheLastHit) {
+    DynArray<Named, 4> array;
+    array.compact_on_remove = false;
+    NameIndex<Named, 4> index(&name_of);
+    array.add(new Named("a"));
+    array.add(new Named("b"));
+    array.add(new Named("c"));
+    array.remove(0);
+    EXPECT_EQ(index.find(array, "c"), 2);
+    array.add(new Named("c"));  // fills slot 0
+    EXPECT_EQ(index.find(array, "c"), 0);
 }
 
 TEST(NameIndex, SwappedArraysAreIndexedAfresh) {
