@@ -27,10 +27,6 @@ constexpr double kLargestExponent = 700;
 constexpr double kLargestAngle = 140737488355328.0;  // 2^47
 constexpr int kArgumentBits = 116;
 
-double power_of_two(int k) {
-    return std::ldexp(1.0, k);
-}
-
 // floor(a * b / 2^shift) of two fixed-point values.
 U128 multiply_fixed(U128 a, U128 b, int shift) {
     return shift_down(multiply_wide(a, b), shift);

@@ -10,50 +10,57 @@ namespace quindar::exact {
 
 namespace {
 
-// Fraction bits of the scaled value: below 10^20 * 2^56 < 2^128 it fits, and a unit of
+// Fraction bits of the scaled value: below 10^19 * 2^56 < 2^120 it fits, and a unit of
 // 2^-56 lies far below any error bound worth deciding with.
 constexpr int kFractionBits = 56;
 constexpr int kResultDigits = 15;
+constexpr int kMostDigits = 18;
 constexpr U128 kOne = static_cast<U128>(1) << kFractionBits;
+constexpr U128 kHalf = kOne / 2;
 
-U128 power_of_ten_integer(int k) {
-    U128 power = 1;
-    for (int i = 0; i < k; ++i) power *= 10;
-    return power;
-}
-
-int digit_count(U128 n) {
-    int count = 1;
-    for (U128 power = 10; n >= power && count < 38; power *= 10) ++count;
-    return count;
-}
+struct Powers {
+    std::uint64_t value[kMostDigits + 2];
+    constexpr Powers() : value() {
+        std::uint64_t power = 1;
+        for (auto &entry : value) {
+            entry = power;
+            power *= 10;
+        }
+    }
+};
+constexpr Powers kPowers;
 
 struct Rounded {
-    U128 coefficient;  // the decimal is coefficient * 10^place in units of the scaled value
+    std::uint64_t coefficient;  // the decimal is coefficient * 10^place, in scaled units
     int place;
 };
 
-// x (a scaled value with kFractionBits fraction bits, between 10^(digits - 1) and
-// 10^(digits + 2)) rounded to `digits` significant digits, ties up, and then to 15.
+// x (a scaled value with kFractionBits fraction bits, in [10^(digits - 2), 10^(digits + 1)))
+// rounded to `digits` significant digits, ties up, and with `then_fifteen` again to 15.
 Rounded round_scaled(U128 x, int digits, bool then_fifteen) {
+    std::uint64_t n;
     int place = 0;
-    U128 grid = 1;
-    while (x >= power_of_ten_integer(digits + place) * kOne) {
-        ++place;
-        grid *= 10;
+    if (x < static_cast<U128>(kPowers.value[digits - 1]) << kFractionBits) {
+        n = static_cast<std::uint64_t>((x * 10 + kHalf) >> kFractionBits);
+        place = -1;
+    } else if (x < static_cast<U128>(kPowers.value[digits]) << kFractionBits) {
+        n = static_cast<std::uint64_t>((x + kHalf) >> kFractionBits);
+    } else {
+        // floor((x + 5) / 10), the integer part below 10^19 < 2^64.
+        n = static_cast<std::uint64_t>((x + 10 * kHalf) >> kFractionBits) / 10;
+        place = 1;
     }
-    U128 n = ((x + grid * (kOne / 2)) >> kFractionBits) / grid;
-    if (n == power_of_ten_integer(digits)) {  // a carry into one more digit
+    if (n == kPowers.value[digits]) {  // a carry into one more digit
         n /= 10;
         ++place;
     }
     if (!then_fifteen) return Rounded{n, place};
-    const int excess = digit_count(n) - kResultDigits;
-    if (excess <= 0) return Rounded{n, place};
-    const U128 divisor = power_of_ten_integer(excess);
+    // n has exactly `digits` digits.
+    const int excess = digits - kResultDigits;
+    const std::uint64_t divisor = kPowers.value[excess];
     n = (n + divisor / 2) / divisor;
     place += excess;
-    if (n == power_of_ten_integer(kResultDigits)) {
+    if (n == kPowers.value[kResultDigits]) {
         n /= 10;
         ++place;
     }
@@ -67,11 +74,11 @@ bool decide_digits(const Binary &v, double error, int digits, bool then_fifteen,
         result = Decimal{};
         return true;
     }
-    const double estimate = approximate(v);
-    if (!(estimate > 1e-300 && estimate < 1e300)) return false;
-    // The scaled value v * 10^q lies in [10^digits, 10^(digits + 1)): one digit more than
-    // kept, so that neither end of the interval leaves the range round_scaled takes.
-    int q = digits - static_cast<int>(std::floor(std::log10(estimate)));
+    if (digits <= kResultDigits || digits > kMostDigits) return false;
+    // The scaled value v * 10^q lies in [10^(digits - 1), 10^digits); from the binary exponent
+    // (1233 / 4096 just below log10 2) the first q is right or one off.
+    const int binary = v.exponent + 127;
+    int q = digits - 1 - ((binary * 1233) >> 12);
     U128 scaled = 0;
     for (int tries = 0;; ++tries) {
         if (tries == 3) return false;
@@ -85,24 +92,25 @@ bool decide_digits(const Binary &v, double error, int digits, bool then_fifteen,
             continue;
         }
         scaled = shift_down(product, shift);
-        if (scaled >= power_of_ten_integer(digits + 1) * kOne) {
+        if (scaled >= static_cast<U128>(kPowers.value[digits]) << kFractionBits) {
             --q;
-        } else if (scaled < power_of_ten_integer(digits) * kOne) {
+        } else if (scaled < static_cast<U128>(kPowers.value[digits - 1]) << kFractionBits) {
             ++q;
         } else {
             break;
         }
     }
     // The power of ten is within 2^-128 and the cut of the scaled value within one unit; the
-    // bound is taken a little wider than its double product.
+    // bound is taken a little wider than its double product. A margin below a tenth of the
+    // value keeps both ends in the range round_scaled takes.
     const double spread =
-        static_cast<double>(scaled) * (error + std::ldexp(1.0, -126)) * (1 + 1e-12) + 2;
-    if (!(spread < 1e30)) return false;
-    const auto margin = static_cast<U128>(spread) + 1;
+        static_cast<double>(scaled) * (error + power_of_two(-126)) * (1 + 1e-12) + 2;
+    if (!(spread < 0x1p62) || static_cast<U128>(spread) * 10 > scaled) return false;
+    const auto margin = static_cast<std::uint64_t>(spread) + 1;
     const Rounded low = round_scaled(scaled - margin, digits, then_fifteen);
     const Rounded high = round_scaled(scaled + margin, digits, then_fifteen);
     if (low.place != high.place || low.coefficient != high.coefficient) return false;
-    result = Decimal{v.negative, static_cast<std::uint64_t>(low.coefficient), low.place - q};
+    result = Decimal{v.negative, low.coefficient, low.place - q};
     return true;
 }
 

@@ -96,10 +96,20 @@ inline Binary product(const Binary &a, const Binary &b) {
                       a.exponent + b.exponent);
 }
 
-// |x| as a double, within 2^-52 (relative), for estimates.
+// 2^k as a double, for -1022 <= k <= 1023.
+inline double power_of_two(int k) {
+    const std::uint64_t bits = static_cast<std::uint64_t>(k + 1023) << 52;
+    double result;
+    __builtin_memcpy(&result, &bits, sizeof result);
+    return result;
+}
+
+// |x| as a double, within 2^-52 (relative), for estimates; 0 beyond the range of doubles.
 inline double approximate(const Binary &x) {
-    const double top = static_cast<double>(static_cast<std::uint64_t>(x.mantissa >> 64));
-    return __builtin_ldexp(top, x.exponent + 64);
+    const int k = x.exponent + 64;
+    const auto top = static_cast<double>(static_cast<std::uint64_t>(x.mantissa >> 64));
+    if (k < -1022 || k > 1023) return __builtin_ldexp(top, k);
+    return top * power_of_two(k);
 }
 
 }  // namespace quindar::exact
