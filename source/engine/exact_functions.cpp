@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "binary_kernels.h"
+#include "decimal_reading.h"
 #include "digit_decision.h"
 #include "exact_arithmetic.h"
 #include "mpfr_road.h"
@@ -27,7 +28,7 @@ void note(Road *road, Road taken) {
 // The engine's rounding of a decimal result to 15 digits, read as a double.
 bool engine_value(const Decimal &wide, double &value) {
     Decimal rounded;
-    return multiply(wide, Decimal{false, 1, 0}, rounded) && value_of(rounded, value);
+    return multiply(wide, Decimal{false, 1, 0}, rounded) && read_decimal(rounded, value);
 }
 
 // ln x at `digits` (then at 15 with `then_fifteen`) for x > 0; the road that decided.
@@ -71,7 +72,7 @@ bool positive_operand(const complex &z, Decimal &x) {
 
 bool finish(const Decimal &value, complex &result) {
     double real = 0;
-    if (!value_of(value, real)) return false;
+    if (!read_decimal(value, real)) return false;
     result = complex{real, 0.0};
     return true;
 }

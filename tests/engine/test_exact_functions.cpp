@@ -150,8 +150,22 @@ private:
     std::uniform_real_distribution<double> unit{0.0, 1.0};
 };
 
+bool in_passage(double x) {
+    return x == 0 || (std::fabs(x) >= 1e-9 && std::fabs(x) < 1e14);
+}
+
+// A real result a double holds in full (a normal double, neither infinite nor NaN, or the
+// zero of a zero operand), from operands of the passage's range (10^-9 to 10^14).
+bool ordinary(double x, double b, const complex &result) {
+    const double magnitude = std::fabs(result.real);
+    return in_passage(x) && in_passage(b) && result.imag == 0 &&
+           ((magnitude > 1e-300 && magnitude < 1e300) || (magnitude == 0 && x == 0));
+}
+
 struct Tally {
     long drawn = 0, kernel = 0, binary = 0, decimal = 0, mismatches = 0;
+    // Operands with an ordinary result, and those of them the decimal road took.
+    long in_range = 0, in_range_left = 0;
 
     void check(Function function, double x, double b, const char *name) {
         ++drawn;
@@ -159,8 +173,13 @@ struct Tally {
         Road road = Road::kernel;
         if (!fast_road(function, x, b, fast, road)) {
             ++decimal;
+            if (ordinary(x, b, decimal_road(function, x, b))) {
+                ++in_range;
+                ++in_range_left;
+            }
             return;
         }
+        in_range += ordinary(x, b, fast);
         ++(road == Road::kernel ? kernel : binary);
         const complex reference = decimal_road(function, x, b);
         if (same_bits(fast.real, reference.real) && same_bits(fast.imag, reference.imag)) return;
@@ -174,9 +193,11 @@ struct Tally {
     void report(const char *name) const {
         std::printf(
             "%s: %ld operands, %ld by the kernels, %ld in 128-bit binary, %ld to the "
-            "decimal road (%.2e); %ld mismatches\n",
-            name, drawn, kernel, binary, decimal,
-            static_cast<double>(binary + decimal) / static_cast<double>(drawn), mismatches);
+            "decimal road; of %ld with an ordinary result %ld left by the kernels (%.2e), "
+            "%ld to the decimal road; %ld mismatches\n",
+            name, drawn, kernel, binary, decimal, in_range, in_range_left + binary,
+            static_cast<double>(in_range_left + binary) / static_cast<double>(in_range),
+            in_range_left, mismatches);
         EXPECT_EQ(mismatches, 0) << name;
     }
 };
