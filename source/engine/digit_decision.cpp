@@ -74,7 +74,8 @@ bool decide_digits(const Binary &v, double error, int digits, bool then_fifteen,
         result = Decimal{};
         return true;
     }
-    if (digits <= kResultDigits || digits > kMostDigits) return false;
+    if (digits < kResultDigits || digits > kMostDigits || (then_fifteen && digits == kResultDigits))
+        return false;
     // The scaled value v * 10^q lies in [10^(digits - 1), 10^digits); from the binary exponent
     // (1233 / 4096 just below log10 2) the first q is right or one off.
     const int binary = v.exponent + 127;

@@ -14,8 +14,8 @@
 namespace quindar::exact {
 
 // The value v stands for, within `error` relative to it, rounded to `digits` (up to 18)
-// significant digits (16 to 18) and, with `then_fifteen`, rounded again to 15. False where the ends of
-// the interval round differently (or v lies beyond the powers of ten held).
+// significant digits (15 to 18) and, with `then_fifteen`, rounded again to 15. False where the ends
+// of the interval round differently (or v lies beyond the powers of ten held).
 bool decide_digits(const Binary &v, double error, int digits, bool then_fifteen, Decimal &result);
 
 }  // namespace quindar::exact

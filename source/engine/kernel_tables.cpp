@@ -5,6 +5,8 @@
 #include <gmp.h>
 #include <mpfr.h>
 
+#include "mpfr_value.h"
+
 namespace quindar::exact {
 
 namespace {
@@ -12,16 +14,9 @@ namespace {
 // Far more than the 128 bits kept, so each constant is rounded once.
 constexpr mpfr_prec_t kWorkingBits = 320;
 
-class Real {
+class Real : public MpfrValue {
 public:
-    Real() { mpfr_init2(value_, kWorkingBits); }
-    ~Real() { mpfr_clear(value_); }
-    Real(const Real &) = delete;
-    Real &operator=(const Real &) = delete;
-    mpfr_ptr get() { return value_; }
-
-private:
-    mpfr_t value_;
+    Real() : MpfrValue(kWorkingBits) {}
 };
 
 // The integer nearest to |v| * 2^bits, which must lie below 2^256, as two halves.

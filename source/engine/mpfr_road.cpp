@@ -9,6 +9,8 @@
 #include <gmp.h>
 #include <mpfr.h>
 
+#include "mpfr_value.h"
+
 namespace quindar::exact {
 
 namespace {
@@ -25,16 +27,10 @@ const double kUnit = std::ldexp(1.0, -kBits + 1);  // a relative rounding error 
 // Beyond this exp(y) leaves the double range the result must reach anyway.
 constexpr double kLargestExponent = 700;
 
-class MpfrValue {
+// A value of the road's width.
+class Wide128 : public MpfrValue {
 public:
-    MpfrValue() { mpfr_init2(value_, kBits); }
-    ~MpfrValue() { mpfr_clear(value_); }
-    MpfrValue(const MpfrValue &) = delete;
-    MpfrValue &operator=(const MpfrValue &) = delete;
-    mpfr_ptr get() { return value_; }
-
-private:
-    mpfr_t value_;
+    Wide128() : MpfrValue(kBits) {}
 };
 
 // n * 10^exponent with one rounding (relative error at most kUnit / 2).
@@ -45,7 +41,7 @@ bool set_decimal(mpfr_ptr out, Wide n, int exponent) {
     mpfr_mul_2ui(out, out, 64, MPFR_RNDN);
     mpfr_add_ui(out, out, static_cast<unsigned long>(n), MPFR_RNDN);  // exact: n < 2^128
     if (exponent == 0) return true;
-    MpfrValue power;
+    Wide128 power;
     mpfr_ui_pow_ui(power.get(), 10, static_cast<unsigned long>(std::abs(exponent)), MPFR_RNDN);
     if (exponent > 0)
         mpfr_mul(out, out, power.get(), MPFR_RNDN);
@@ -61,7 +57,7 @@ bool round_to_digits(mpfr_ptr v, double error, int digits, Decimal &result) {
     const double approximate = std::fabs(mpfr_get_d(v, MPFR_RNDN));
     if (!(approximate > 1e-300 && approximate < 1e300)) return false;
     int scale = digits - 1 - static_cast<int>(std::floor(std::log10(approximate)));
-    MpfrValue scaled, power;
+    Wide128 scaled, power;
     for (int tries = 0; tries < 2; ++tries) {
         if (scale > kExactPower || scale < -kExactPower) return false;
         mpfr_ui_pow_ui(power.get(), 10, static_cast<unsigned long>(std::abs(scale)), MPFR_RNDN);
@@ -93,7 +89,7 @@ bool round_to_digits(mpfr_ptr v, double error, int digits, Decimal &result) {
 
 // ln x of a positive x with its sign, at `digits`; 0 for x = 1.
 bool logarithm_of(mpfr_ptr x, int digits, Decimal &result) {
-    MpfrValue value;
+    Wide128 value;
     mpfr_log(value.get(), x, MPFR_RNDN);
     result = Decimal{};
     if (mpfr_zero_p(value.get())) return true;
@@ -134,7 +130,7 @@ bool degrees_to_binary(const Decimal &angle, mpfr_ptr out) {
     const bool exact = exponent <= kExactPower && exponent >= -kExactPower;
     if (exact) {
         mpfr_set_z(out, product, MPFR_RNDN);  // exact: below 10^34 < 2^113
-        MpfrValue scale;
+        Wide128 scale;
         mpfr_ui_pow_ui(scale.get(), 10, static_cast<unsigned long>(std::abs(exponent)), MPFR_RNDN);
         if (exponent >= 0)
             mpfr_mul(out, out, scale.get(), MPFR_RNDN);
@@ -149,7 +145,7 @@ bool degrees_to_binary(const Decimal &angle, mpfr_ptr out) {
 }  // namespace
 
 bool mpfr_log_digits(const Decimal &x, int digits, Decimal &result) {
-    MpfrValue value;
+    Wide128 value;
     return !x.negative && x.coefficient != 0 &&
            set_decimal(value.get(), x.coefficient, x.exponent) &&
            logarithm_of(value.get(), digits, result);
@@ -162,7 +158,7 @@ bool mpfr_exp_digits(bool negative, Wide n, int exponent, int digits, Decimal &r
     }
     const double approximate = static_cast<double>(n) * std::pow(10.0, exponent);
     if (!(approximate < kLargestExponent)) return false;
-    MpfrValue x, value;
+    Wide128 x, value;
     if (!set_decimal(x.get(), n, exponent)) return false;
     if (negative) mpfr_neg(x.get(), x.get(), MPFR_RNDN);
     mpfr_exp(value.get(), x.get(), MPFR_RNDN);
@@ -172,7 +168,7 @@ bool mpfr_exp_digits(bool negative, Wide n, int exponent, int digits, Decimal &r
 }
 
 bool mpfr_sine_digits(const Decimal &angle, bool cosine, bool degrees, Decimal &result) {
-    MpfrValue binary, function;
+    Wide128 binary, function;
     if (angle.coefficient == 0) {
         mpfr_set_zero(binary.get(), 1);
     } else if (degrees) {
