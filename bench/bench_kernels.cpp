@@ -50,8 +50,8 @@ void count_points(benchmark::State &state) {
                                                     benchmark::Counter::kIsIterationInvariantRate);
 }
 
-// One iteration solves the map at every point.
-void BM_map(benchmark::State &state) {
+// One iteration solves the map at every point, shifted by `shift`.
+void solve_map(benchmark::State &state, double shift) {
     quindar::Parser parser("", "");
     parser.eval_exp("x = 1", true, false);
     parser.current_equation = parser.equations.add();
@@ -61,14 +61,24 @@ void BM_map(benchmark::State &state) {
     double sum = 0;
     for (auto _ : state) {
         for (int k = 0; k < kPoints; ++k) {
-            parser.set_var_value(complex{point(k), 0}, "x");
+            parser.set_var_value(complex{point(k) + shift, 0}, "x");
             sum += parser.solve_equation(map, false, true).real;
         }
     }
     benchmark::DoNotOptimize(sum);
     count_points(state);
 }
+
+void BM_map(benchmark::State &state) {
+    solve_map(state, 0);
+}
 BENCHMARK(BM_map)->DenseRange(0, kLast)->Unit(benchmark::kMillisecond);
+
+// Squares and cubes of a graph across zero, from -5 to 5: negative bases have a phase.
+void BM_map_across_zero(benchmark::State &state) {
+    solve_map(state, -5);
+}
+BENCHMARK(BM_map_across_zero)->Arg(kSquare)->Arg(kCube)->Unit(benchmark::kMillisecond);
 
 // The fast road alone, with its fallbacks (the square root is the integer one).
 complex fast_road(int kernel, double x) {
