@@ -21,7 +21,7 @@ constexpr int kHalfPiBits = 200;   // pi / 2 and the reduced angle, in 256 bits
 constexpr int kLn2StepBits = 135;  // ln 2 / 256
 
 // Decimal exponents of the powers of ten held, and of the multiples of ln 10.
-constexpr int kPowerRange = 330;
+constexpr int kPowerRange = 400;
 constexpr int kLn10Range = 64;
 // Terms of the series.
 constexpr int kLogTerms = 15;

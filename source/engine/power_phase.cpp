@@ -10,10 +10,14 @@ namespace quindar::exact {
 
 namespace {
 
-// pi's decimals; theta at P places keeps the first P, delta comes from those after them.
+// pi's first 400 decimals; theta at P places keeps the first P, delta comes from those after
+// them (so P goes up to 364, past the places of any double's phase).
 constexpr const char *kPiDecimals =
     "14159265358979323846264338327950288419716939937510582097494459230781640628620899862803482534"
-    "21170679";
+    "21170679821480865132823066470938446095505822317253594081284811174502841027019385211055596446"
+    "22948954930381964428810975665933446128475648233786783165271201909145648566923460348610454326"
+    "64821339360726024914127372458700660631558817488152092096282925409171536436789259036001133053"
+    "05488204665213841469519415116094";
 // Decimals of delta read.
 constexpr int kDeltaDigits = 36;
 // The decimal layer's own sine is within this of the true one, relative.

@@ -20,7 +20,7 @@ constexpr std::uint64_t kLargestWholeExponent = 1000000;
 // True for a whole b with |b| <= kLargestWholeExponent; `odd` tells its parity.
 bool whole_exponent(const Decimal &b, bool &odd);
 
-// sin(b theta) for a whole b, where theta is pi rounded at `places` places (15 to 64), in
+// sin(b theta) for a whole b, where theta is pi rounded at `places` places (15 to 364), in
 // binary with `error` bounding it (relative); zero for b = 0.
 bool whole_turn_sine(const Decimal &b, int places, Binary &result, double &error);
 
