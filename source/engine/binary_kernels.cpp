@@ -11,11 +11,6 @@ namespace quindar::exact {
 namespace {
 
 constexpr U128 kBit = 1;
-// The degree factor as the decimal layer holds it: the first 34 digits of pi / 180, times
-// 10^-35 (below 10^34 < 2^113, so exact here).
-constexpr U128 kDegreeDigits =
-    static_cast<U128>(17453292519943295ull) * 100000000000000000ull + 76923690768488612ull;
-constexpr int kDegreeExponent = -35;
 // The cut of that product to 34 digits takes off less than 10^-33 of it.
 constexpr double kDegreeCut = 1e-33;
 constexpr double kHalfPi = 1.5707963267948966;
@@ -127,9 +122,6 @@ bool exp_kernel(const Binary &y, double y_error, Binary &result, double &error) 
     return true;
 }
 
-// x = k pi/2 + r, |r| <= pi/4 (+ a little), from x and pi/2 at 200 bits in 256-bit integers:
-// x is exact there, pi/2 within 2^-201 per multiple, and r is cut to 128 bits (2^-127
-// relative): r lies within delta = |x| x_error + (|k| + 1) 2^-201 + 2^-127 |r| of its value.
 // With u = r^2 (r cut to 128 bits, u within 3 * 2^-128), sin r = r P(u) and cos r = Q(u),
 // P(u) = sum (-u)^i / (2i + 1)!, Q(u) = sum (-u)^i / (2i)!, by Horner at 127 bits, every
 // partial sum positive since u < 0.64: each step adds 2^-128 (its constant), 2^-127 (the cut
@@ -137,25 +129,11 @@ bool exp_kernel(const Binary &y, double y_error, Binary &result, double &error) 
 // 2^-124.6; the terms left off are below 2^-123, and P, Q >= 0.7, so both are within 2^-122
 // relative, 2^-121 with the last product's cut. The error of r moves sin r by delta / |r|
 // relative (cot r < 1 / r) and cos r by delta tan|r| <= delta.
-bool sine_kernel(const Binary &x, double x_error, bool cosine, Binary &result, double &error) {
+bool quadrant_sine(const Binary &r, double delta, long long k, bool cosine, Binary &result,
+                   double &error) {
     const KernelTables &t = kernel_tables();
-    const double angle = approximate(x);
-    if (x.mantissa == 0 || !(angle < kLargestAngle)) return false;
-    long long k = 0;
-    Binary r{false, x.mantissa, x.exponent};
-    double delta = angle * x_error;
-    if (angle > 0.78) {
-        k = std::llround(angle / kHalfPi);
-        const U256 fixed = shift_up(x.mantissa, x.exponent + kHalfPiBits);
-        const U256 multiple = multiply_wide(t.half_pi, static_cast<std::uint64_t>(k));
-        const bool below = less(fixed, multiple);
-        const U256 rest = below ? subtract(multiple, fixed) : subtract(fixed, multiple);
-        if (rest.high == 0 && rest.low == 0) return false;
-        r = normalised(below, rest, -kHalfPiBits);
-        delta += static_cast<double>(k + 1) * power_of_two(-201);
-    }
     const double reduced = approximate(r);
-    if (!(reduced < 0.8)) return false;
+    if (r.mantissa == 0 || !(reduced < 0.8)) return false;
     delta += reduced * power_of_two(-127);
     // r at 128 bits (|r| < 1, so the shift is down).
     const int shift = -(r.exponent + 128);
@@ -180,9 +158,33 @@ bool sine_kernel(const Binary &x, double x_error, bool cosine, Binary &result, d
         negative = negative != r.negative;
         error = power_of_two(-121) + delta / reduced * 1.01;
     }
-    // sin is odd, cos even.
-    if (x.negative && !cosine) negative = !negative;
     result.negative = negative;
+    return true;
+}
+
+// x = k pi/2 + r, |r| <= pi/4 (+ a little), from x and pi/2 at 200 bits in 256-bit integers:
+// x is exact there, pi/2 within 2^-201 per multiple, and r is cut to 128 bits (2^-127
+// relative): r lies within delta = |x| x_error + (|k| + 1) 2^-201 + 2^-127 |r| of its value.
+bool sine_kernel(const Binary &x, double x_error, bool cosine, Binary &result, double &error) {
+    const KernelTables &t = kernel_tables();
+    const double angle = approximate(x);
+    if (x.mantissa == 0 || !(angle < kLargestAngle)) return false;
+    long long k = 0;
+    Binary r{false, x.mantissa, x.exponent};
+    double delta = angle * x_error;
+    if (angle > 0.78) {
+        k = std::llround(angle / kHalfPi);
+        const U256 fixed = shift_up(x.mantissa, x.exponent + kHalfPiBits);
+        const U256 multiple = multiply_wide(t.half_pi, static_cast<std::uint64_t>(k));
+        const bool below = less(fixed, multiple);
+        const U256 rest = below ? subtract(multiple, fixed) : subtract(fixed, multiple);
+        if (rest.high == 0 && rest.low == 0) return false;
+        r = normalised(below, rest, -kHalfPiBits);
+        delta += static_cast<double>(k + 1) * power_of_two(-201);
+    }
+    if (!quadrant_sine(r, delta, k, cosine, result, error)) return false;
+    // sin is odd, cos even.
+    if (x.negative && !cosine) result.negative = !result.negative;
     return true;
 }
 

@@ -27,6 +27,11 @@ bool log_kernel(std::uint64_t n, int exponent, Binary &result);
 // e^y for a y known within `y_error` (absolute); `error` receives the relative bound.
 bool exp_kernel(const Binary &y, double y_error, Binary &result, double &error);
 
+// sin x or cos x for x = k pi/2 + r, from r (|r| < 0.8) known within `delta` (absolute);
+// `error` receives the relative bound.
+bool quadrant_sine(const Binary &r, double delta, long long k, bool cosine, Binary &result,
+                   double &error);
+
 // sin x or cos x for an angle x known within `x_error` (relative); `error` receives the
 // relative bound. False for an angle of 2^47 or more, or one that reduces to 0.
 bool sine_kernel(const Binary &x, double x_error, bool cosine, Binary &result, double &error);

@@ -6,6 +6,7 @@
 
 #include "binary_kernels.h"
 #include "decimal_reading.h"
+#include "degree_reduction.h"
 #include "digit_decision.h"
 #include "exact_arithmetic.h"
 #include "mpfr_road.h"
@@ -143,9 +144,22 @@ bool real_sine(double x, bool cosine, bool degrees, complex &result, Road *road)
                                                         angle.exponent, radians, angle_error)
                                    : decimal_to_binary(angle.negative, angle.coefficient,
                                                        angle.exponent, radians, angle_error);
+    // The decimal layer's angle lies within kRoadError of the angle, relative, and its value
+    // within kRoadError of the function's, relative.
     if (converted && sine_kernel(radians, angle_error * kWider, cosine, sine, error)) {
-        // The decimal layer's angle lies within kRoadError of the angle, relative, and its
-        // value within kRoadError of the function's, relative.
+        const double road_error = kRoadError * (approximate(radians) + 1) / approximate(sine);
+        if (decide_digits(sine, error * kWider + road_error + kRoadError, 18, true, value) &&
+            finish(value, result)) {
+            note(road, Road::kernel);
+            return true;
+        }
+    }
+    // In degrees an angle next to a whole number of quarter turns is reduced exactly.
+    ReducedAngle reduced;
+    if (converted && degrees && reduce_degrees(angle.coefficient, angle.exponent, reduced) &&
+        quadrant_sine(reduced.rest, reduced.delta * kWider, reduced.quarters, cosine, sine,
+                      error)) {
+        if (angle.negative && !cosine) sine.negative = !sine.negative;
         const double road_error = kRoadError * (approximate(radians) + 1) / approximate(sine);
         if (decide_digits(sine, error * kWider + road_error + kRoadError, 18, true, value) &&
             finish(value, result)) {

@@ -29,6 +29,12 @@ constexpr int kExpTerms = 12;
 constexpr int kSineTerms = 16;
 constexpr int kCosineTerms = 17;
 
+// The degree factor as the decimal layer holds it: the first 34 digits of pi / 180, times
+// 10^-35 (below 10^34 < 2^113, so exact here).
+constexpr U128 kDegreeDigits =
+    static_cast<U128>(17453292519943295ull) * 100000000000000000ull + 76923690768488612ull;
+constexpr int kDegreeExponent = -35;
+
 struct KernelTables {
     // The logarithm's steps j = 0 .. 255: R_j = ceil(2^24 / (256 + j)), so that a mantissa
     // m in [1 + j / 256, 1 + (j + 1) / 256) has m R_j / 2^16 in [1, 1 + 2^-7.99); and

@@ -320,6 +320,30 @@ TEST(ExactFunctions, PowersAgreeWithTheDecimalRoad) {
     EXPECT_GT(tally.kernel, draws / 2);
 }
 
+// Whole quarter turns in degrees: the decimal layer's angle misses k pi / 2 by about 10^-33,
+// so the sine of 180 degrees is a tiny number, not 0; the kernels give those digits too.
+TEST(ExactFunctions, WholeQuarterTurnsInDegrees) {
+    for (int k = -8; k <= 8; ++k) {
+        for (const Function function : {Function::sin_degrees, Function::cos_degrees}) {
+            const double x = 90.0 * k;
+            complex fast;
+            Road road = Road::binary;
+            ASSERT_TRUE(fast_road(function, x, 0, fast, road)) << x;
+            EXPECT_EQ(road, Road::kernel) << x;
+            const complex reference = decimal_road(function, x);
+            EXPECT_TRUE(same_bits(fast.real, reference.real))
+                << x << ": " << hex(fast.real) << ", decimal " << hex(reference.real);
+            // Zeros of the function are tiny values, its extremes exactly 1 or -1.
+            const bool zero = (k % 2 == 0) == (function == Function::sin_degrees);
+            if (!zero) {
+                EXPECT_EQ(std::fabs(fast.real), 1.0) << x;
+            } else if (k != 0) {
+                EXPECT_LT(std::fabs(fast.real), 1e-30) << x;
+            }
+        }
+    }
+}
+
 // Cases by hand: what each function gives at its edges, against the decimal road too.
 TEST(ExactFunctions, CasesAtTheEdges) {
     struct Case {
