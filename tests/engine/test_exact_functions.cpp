@@ -210,9 +210,11 @@ TEST(ExactFunctions, LogarithmAgreesWithTheDecimalRoad) {
     Tally tally;
     const long draws = draws_to_make(1000000);
     for (long k = 0; k < draws; ++k) {
-        // Near 1 as well, where the logarithm is small.
+        // Near 1 as well, where the logarithm is small, and next to powers of e with short
+        // exponents, where it lies next to a short decimal (and a tie of its 15th digit).
         double x = draw.magnitude();
         if (draw.pick(6) == 0) x = 1 + draw.sign() * draw.magnitude() * 1e-9;
+        if (draw.pick(6) == 0) x = std::exp(draw.sign() * (1 + draw.pick(999)) / 100.0);
         tally.check(Function::log, x, 0, "LN");
     }
     tally.report("LN");
@@ -225,9 +227,11 @@ TEST(ExactFunctions, ExponentialAgreesWithTheDecimalRoad) {
     Tally tally;
     const long draws = draws_to_make(1000000);
     for (long k = 0; k < draws; ++k) {
-        // Mostly where the result is a double the engine reads back (below 10^19).
+        // Mostly where the result is a double the engine reads back (below 10^19), and at
+        // logarithms of short decimals, where it lies next to one.
         double x = draw.sign() * draw.magnitude();
         if (draw.pick(4) != 0) x = std::fmod(x, 45.0);
+        if (draw.pick(6) == 0) x = std::log((1 + draw.pick(9999)) / 100.0);
         tally.check(Function::exp, x, 0, "EXP");
     }
     tally.report("EXP");
