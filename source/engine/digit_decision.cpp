@@ -67,6 +67,12 @@ Rounded round_scaled(U128 x, int digits, bool then_fifteen) {
     return Rounded{n, place};
 }
 
+// x as a double, from its two halves (each conversion is of 64 bits, which is quick).
+double wide_double(U128 x) {
+    return static_cast<double>(static_cast<std::uint64_t>(x >> 64)) * 0x1p64 +
+           static_cast<double>(static_cast<std::uint64_t>(x));
+}
+
 }  // namespace
 
 bool decide_digits(const Binary &v, double error, int digits, bool then_fifteen, Decimal &result) {
@@ -104,10 +110,10 @@ bool decide_digits(const Binary &v, double error, int digits, bool then_fifteen,
     // The power of ten is within 2^-128 and the cut of the scaled value within one unit; the
     // bound is taken a little wider than its double product. A margin below a tenth of the
     // value keeps both ends in the range round_scaled takes.
-    const double spread =
-        static_cast<double>(scaled) * (error + power_of_two(-126)) * (1 + 1e-12) + 2;
-    if (!(spread < 0x1p62) || static_cast<U128>(spread) * 10 > scaled) return false;
+    const double spread = wide_double(scaled) * (error + power_of_two(-126)) * (1 + 1e-12) + 2;
+    if (!(spread < 0x1p62)) return false;
     const auto margin = static_cast<std::uint64_t>(spread) + 1;
+    if (static_cast<U128>(margin) * 10 > scaled) return false;
     const Rounded low = round_scaled(scaled - margin, digits, then_fifteen);
     const Rounded high = round_scaled(scaled + margin, digits, then_fifteen);
     if (low.place != high.place || low.coefficient != high.coefficient) return false;
