@@ -13,6 +13,7 @@
 
 #include "binary_kernels.h"
 #include "degree_reduction.h"
+#include "mpfr_value.h"
 
 namespace quindar::exact {
 namespace {
@@ -20,16 +21,9 @@ namespace {
 constexpr mpfr_prec_t kReferenceBits = 320;
 constexpr int kDraws = 100000;
 
-class Real {
+class Real : public MpfrValue {
 public:
-    Real() { mpfr_init2(value_, kReferenceBits); }
-    ~Real() { mpfr_clear(value_); }
-    Real(const Real &) = delete;
-    Real &operator=(const Real &) = delete;
-    mpfr_ptr get() { return value_; }
-
-private:
-    mpfr_t value_;
+    Real() : MpfrValue(kReferenceBits) {}
 };
 
 // The binary value exactly, in MPFR.
