@@ -50,14 +50,14 @@ bool degrees_to_radians(bool negative, std::uint64_t n, int exponent, Binary &re
     return true;
 }
 
-// ln(n 10^e) = k ln 2 + ln(2^16 / R_j) + ln(1 + t) + e ln 10, with n = 2^k m, m in [1, 2)
-// and 1 + t = m R_j / 2^16 computed exactly (m has at most 64 bits, R_j 17), t < 2^-7.99.
-// ln(1 + t) = t H_1 with H_k = 1/k - t H_(k+1), Horner from H_15 = 1/15 at 127 bits: each
-// step adds at most 2^-127 (the constant) and 2^-127 (the cut product), and carries the
-// error before it times t; with t < 2^-7.99 the sum stays below 2^-125.9, and the series
-// left off after t^15 / 15 is below 2^-130. The four terms are brought to 118 bits, each
-// within 2^-119 (the two tables are rounded there, the two others rounded to it), so the
-// logarithm is within 4 * 2^-119 + 2^-125 < 2^-116.9 absolute.
+// ln(n 10^e) = k ln 2 + ln(2^16 / R_j) + ln(2^16 / S_i) + ln(1 + t) + e ln 10, with n = 2^k m,
+// m in [1, 2), and 1 + t = m R_j S_i / 2^32 computed exactly (m has at most 64 bits, R_j and
+// S_i 17 each), t < 2^-14.99. ln(1 + t) = t H_1 with H_k = 1/k - t H_(k+1), Horner from
+// H_8 = 1/8 at 127 bits: each step adds at most 2^-127 (the constant) and 2^-127 (the cut
+// product), and carries the error before it times t, so the sum stays below 2^-125.9; the
+// series left off after t^8 / 8 is below 2^-130. The five terms are brought to 118 bits, each
+// within 2^-119 (the two tables of multiples are rounded there, the others rounded to it), so
+// the logarithm is within 5 * 2^-119 + 2^-125 < 2^-116.6 absolute.
 const double kLogError = std::ldexp(1.0, -116);
 
 bool log_kernel(std::uint64_t n, int exponent, Binary &result) {
@@ -66,15 +66,21 @@ bool log_kernel(std::uint64_t n, int exponent, Binary &result) {
     const int k = 63 - __builtin_clzll(n);
     const std::uint64_t m = n << (63 - k);  // 63 fraction bits
     const int j = static_cast<int>(m >> 55) & 0xFF;
-    const U128 scaled = static_cast<U128>(m) * t.reciprocal[j];  // 79 fraction bits, >= 2^79
-    const U128 small = (scaled - (kBit << 79)) << 49;            // t at 128 bits
+    // 79 fraction bits, in [2^79, 2^79 (1 + 2^-7.99)).
+    const U128 coarse = static_cast<U128>(m) * t.reciprocal[j];
+    const int i = static_cast<int>((coarse - (kBit << 79)) >> 63);
+    // 95 fraction bits, in [2^95, 2^95 (1 + 2^-14.99)).
+    const U128 fine = coarse * t.fine_reciprocal[i];
+    const U128 small = (fine - (kBit << 95)) << 33;  // t at 128 bits
     U128 h = t.inverse[kLogTerms];
-    for (int i = kLogTerms - 1; i >= 1; --i) h = t.inverse[i] - multiply_wide(small, h).high;
+    for (int step = kLogTerms - 1; step >= 1; --step)
+        h = t.inverse[step] - multiply_wide(small, h).high;
     const U128 series = multiply_wide(small, h).high;  // 127 bits
     constexpr int kDrop = kUnitBits - kLogSumBits;
     constexpr U128 kHalf = kBit << (kDrop - 1);
     const S128 sum = t.ln2_multiple[k] + t.ln10_multiple[exponent + kLn10Range] +
                      static_cast<S128>((t.log_of_reciprocal[j] + kHalf) >> kDrop) +
+                     static_cast<S128>((t.log_of_fine_reciprocal[i] + kHalf) >> kDrop) +
                      static_cast<S128>((series + kHalf) >> kDrop);
     result = normalised(sum < 0, static_cast<U128>(sum < 0 ? -sum : sum), -kLogSumBits);
     return true;

@@ -72,6 +72,14 @@ KernelTables make_tables() {
         mpfr_exp2(v.get(), v.get(), MPFR_RNDN);
         t.exp2_step[j] = nearest_unsigned(v.get(), kUnitBits);
     }
+    for (int i = 0; i < kFineSteps; ++i) {
+        t.fine_reciprocal[i] =
+            static_cast<std::uint32_t>(((std::uint64_t{1} << 32) + 65535u + i) / (65536u + i));
+        mpfr_set_ui(v.get(), 1u << 16, MPFR_RNDN);
+        mpfr_div_ui(v.get(), v.get(), t.fine_reciprocal[i], MPFR_RNDN);
+        mpfr_log(v.get(), v.get(), MPFR_RNDN);
+        t.log_of_fine_reciprocal[i] = nearest_unsigned(v.get(), kUnitBits);
+    }
     mpfr_const_log2(w.get(), MPFR_RNDN);
     for (int k = 0; k < 64; ++k) {
         mpfr_mul_si(v.get(), w.get(), k, MPFR_RNDN);

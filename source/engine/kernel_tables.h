@@ -24,7 +24,9 @@ constexpr int kLn2StepBits = 135;  // ln 2 / 256
 constexpr int kPowerRange = 400;
 constexpr int kLn10Range = 64;
 // Terms of the series.
-constexpr int kLogTerms = 15;
+constexpr int kLogTerms = 8;
+// Steps of the logarithm's second reduction (t of the first below 2^-7.99 < 258 / 2^16).
+constexpr int kFineSteps = 258;
 constexpr int kExpTerms = 12;
 constexpr int kSineTerms = 16;
 constexpr int kCosineTerms = 17;
@@ -41,6 +43,11 @@ struct KernelTables {
     // ln(2^16 / R_j) at kUnitBits.
     std::uint32_t reciprocal[256];
     U128 log_of_reciprocal[256];
+    // The second step i = 0 .. kFineSteps - 1: S_i = ceil(2^32 / (2^16 + i)), so that 1 + t in
+    // [1 + i / 2^16, 1 + (i + 1) / 2^16) has (1 + t) S_i / 2^16 in [1, 1 + 2^-14.99); and
+    // ln(2^16 / S_i) at kUnitBits.
+    std::uint32_t fine_reciprocal[kFineSteps];
+    U128 log_of_fine_reciprocal[kFineSteps];
     // k ln 2 (k = 0 .. 63) and e ln 10 (e = -kLn10Range .. kLn10Range) at kLogSumBits.
     S128 ln2_multiple[64];
     S128 ln10_multiple[2 * kLn10Range + 1];
