@@ -3,237 +3,219 @@
 #include "exact_functions.h"
 
 #include <cmath>
-#include <cstddef>
-#include <cstdint>
 
-#include <gmp.h>
-#include <mpfr.h>
-
+#include "binary_kernels.h"
+#include "decimal_reading.h"
+#include "degree_reduction.h"
+#include "digit_decision.h"
 #include "exact_arithmetic.h"
+#include "mpfr_road.h"
+#include "power_phase.h"
 
 namespace quindar::exact {
 
 namespace {
 
-__extension__ typedef unsigned __int128 Wide;
-
-constexpr mpfr_prec_t kBits = 128;
-// Powers of ten up to 10^55 are exact in 128 bits (5^55 needs 128).
-constexpr int kExactPower = 55;
-// The decimal layer's own binary values (256 bits and more) lie within this relative
-// distance of the true ones; a decision must hold for them too.
+// The decimal layer's own binary values (256 bits and more) lie within this relative distance
+// of the true ones; a decision must hold for them too.
 const double kRoadError = std::ldexp(1.0, -240);
-const double kUnit = std::ldexp(1.0, -kBits + 1);  // a relative rounding error of kBits bits
-// Beyond this exp(y) leaves the double range the result must reach anyway.
-constexpr double kLargestExponent = 700;
+// The relative bounds of the kernels are taken this much wider, for the rounding of their
+// own double arithmetic.
+constexpr double kWider = 1 + 1e-9;
 
-class Binary {
-public:
-    Binary() { mpfr_init2(value_, kBits); }
-    ~Binary() { mpfr_clear(value_); }
-    Binary(const Binary &) = delete;
-    Binary &operator=(const Binary &) = delete;
-    mpfr_ptr get() { return value_; }
-
-private:
-    mpfr_t value_;
-};
-
-// n * 10^exponent with one rounding (relative error at most kUnit / 2).
-bool set_decimal(mpfr_ptr out, Wide n, int exponent) {
-    if (exponent > kExactPower || exponent < -kExactPower) return false;
-    static_assert(sizeof(unsigned long) == 8, "a machine word of 64 bits");
-    mpfr_set_ui(out, static_cast<unsigned long>(n >> 64), MPFR_RNDN);
-    mpfr_mul_2ui(out, out, 64, MPFR_RNDN);
-    mpfr_add_ui(out, out, static_cast<unsigned long>(n), MPFR_RNDN);  // exact: n < 2^128
-    if (exponent == 0) return true;
-    Binary power;
-    mpfr_ui_pow_ui(power.get(), 10, static_cast<unsigned long>(std::abs(exponent)), MPFR_RNDN);
-    if (exponent > 0)
-        mpfr_mul(out, out, power.get(), MPFR_RNDN);
-    else
-        mpfr_div(out, out, power.get(), MPFR_RNDN);
-    return true;
-}
-
-// |v| rounded to `digits` (17 or 18) significant digits, ties away from zero, where v lies
-// within `error` (relative) of the value meant; false when that bound does not decide it.
-bool round_to_digits(mpfr_ptr v, double error, int digits, Decimal &result) {
-    const double kLow = std::pow(10.0, digits - 1), kHigh = 10 * kLow;
-    const double approximate = std::fabs(mpfr_get_d(v, MPFR_RNDN));
-    if (!(approximate > 1e-300 && approximate < 1e300)) return false;
-    int scale = digits - 1 - static_cast<int>(std::floor(std::log10(approximate)));
-    Binary scaled, power;
-    for (int tries = 0; tries < 2; ++tries) {
-        if (scale > kExactPower || scale < -kExactPower) return false;
-        mpfr_ui_pow_ui(power.get(), 10, static_cast<unsigned long>(std::abs(scale)), MPFR_RNDN);
-        if (scale >= 0)
-            mpfr_mul(scaled.get(), v, power.get(), MPFR_RNDN);
-        else
-            mpfr_div(scaled.get(), v, power.get(), MPFR_RNDN);
-        mpfr_abs(scaled.get(), scaled.get(), MPFR_RNDN);
-        if (mpfr_cmp_d(scaled.get(), kHigh) >= 0) {
-            --scale;
-        } else if (mpfr_cmp_d(scaled.get(), kLow) < 0) {
-            ++scale;
-        } else {
-            break;
-        }
-    }
-    // With the scaling's own rounding, the scaled value lies within `slack` of the scaled
-    // value meant (it is below 10^17).
-    const double slack = kHigh * (error + kUnit) + 1e-9;
-    if (mpfr_cmp_d(scaled.get(), kLow + slack) < 0 || mpfr_cmp_d(scaled.get(), kHigh - slack) > 0)
-        return false;  // too near a change of decade to know the digits' places
-    const unsigned long whole = mpfr_get_ui(scaled.get(), MPFR_RNDZ);
-    mpfr_sub_ui(scaled.get(), scaled.get(), whole, MPFR_RNDN);  // exact: the fraction
-    const double fraction = mpfr_get_d(scaled.get(), MPFR_RNDN);
-    if (std::fabs(fraction - 0.5) <= slack) return false;
-    result = Decimal{false, static_cast<std::uint64_t>(whole + (fraction > 0.5 ? 1 : 0)), -scale};
-    return true;
-}
-
-// ln x of a positive x with its sign, at `digits`; 0 for x = 1.
-bool logarithm_of(mpfr_ptr x, int digits, Decimal &result) {
-    Binary value;
-    mpfr_log(value.get(), x, MPFR_RNDN);
-    result = Decimal{};
-    if (mpfr_zero_p(value.get())) return true;
-    // x is within kUnit / 2 of the operand, so the logarithm within kUnit / 2 (absolute),
-    // and the logarithm's own rounding adds kUnit / 2 of it (relative).
-    const double magnitude = std::fabs(mpfr_get_d(value.get(), MPFR_RNDN));
-    const double error = kUnit / magnitude + kUnit + kRoadError;
-    if (!round_to_digits(value.get(), error, digits, result)) return false;
-    result.negative = mpfr_sgn(value.get()) < 0;
-    return true;
+void note(Road *road, Road taken) {
+    if (road != nullptr) *road = taken;
 }
 
 // The engine's rounding of a decimal result to 15 digits, read as a double.
 bool engine_value(const Decimal &wide, double &value) {
     Decimal rounded;
-    return multiply(wide, Decimal{false, 1, 0}, rounded) && value_of(rounded, value);
+    return multiply(wide, Decimal{false, 1, 0}, rounded) && read_decimal(rounded, value);
 }
 
-bool positive_operand(const complex &z, Decimal &x, Binary &binary) {
-    return z.imag == 0 && operand(z.real, x) && x.coefficient != 0 && !x.negative &&
-           set_decimal(binary.get(), x.coefficient, x.exponent);
+// ln x at `digits` (then at 15 with `then_fifteen`) for x > 0; the road that decided.
+bool log_digits(const Decimal &x, int digits, bool then_fifteen, Decimal &result, Road &road) {
+    road = Road::kernel;
+    Binary value;
+    if (log_kernel(x.coefficient, x.exponent, value)) {
+        if (value.mantissa == 0) {  // ln 1, exactly
+            result = Decimal{};
+            return true;
+        }
+        const double error = kLogError / approximate(value) * kWider + kRoadError;
+        if (decide_digits(value, error, digits, then_fifteen, result)) return true;
+    }
+    road = Road::binary;
+    if (!mpfr_log_digits(x, digits, result)) return false;
+    return !then_fifteen || multiply(result, Decimal{false, 1, 0}, result);
 }
 
-}  // namespace
+// e^y at `digits` (then at 15 with `then_fifteen`) for y = (-1)^negative * n * 10^exponent.
+bool exp_digits(bool negative, U128 n, int exponent, int digits, bool then_fifteen, Decimal &result,
+                Road &road) {
+    road = Road::kernel;
+    if (n == 0) {
+        result = Decimal{false, 1, 0};
+        return true;
+    }
+    Binary y, value;
+    double y_error = 0, error = 0;
+    if (decimal_to_binary(negative, n, exponent, y, y_error) &&
+        exp_kernel(y, approximate(y) * y_error * kWider, value, error) &&
+        decide_digits(value, error * kWider + kRoadError, digits, then_fifteen, result))
+        return true;
+    road = Road::binary;
+    return mpfr_exp_digits(negative, n, exponent, digits, result) &&
+           (!then_fifteen || multiply(result, Decimal{false, 1, 0}, result));
+}
 
-bool real_log(const complex &z, complex &result) {
-    Decimal x, logarithm;
-    Binary binary;
-    double real = 0;
-    // The modulus of a positive real is itself; its argument is 0.
-    if (!positive_operand(z, x, binary) || !logarithm_of(binary.get(), 18, logarithm) ||
-        !engine_value(logarithm, real))
+// The imaginary part M sin(b theta) of a negative base's power, rounded to 15 digits: the
+// sine rounded at `places` and the exact product rounded once. Up to 18 digits the sine's
+// rounding is decided first where the product fits 128 bits; otherwise the sine's rounding
+// is taken into the bound of the product instead (it moves it by half a unit of the place at
+// most).
+bool phase_part(const Decimal &b, const Decimal &magnitude, int places, Decimal &result) {
+    Binary sine;
+    double error = 0;
+    if (!whole_turn_sine(b, places, sine, error)) return false;
+    if (sine.mantissa == 0) {
+        result = Decimal{};
+        return true;
+    }
+    Decimal rounded;
+    if (places < 18 && decide_digits(sine, error, places + 1, false, rounded) &&
+        multiply(magnitude, rounded, result))
+        return true;
+    Binary m, product_value;
+    double m_error = 0;
+    if (!decimal_to_binary(false, magnitude.coefficient, magnitude.exponent, m, m_error))
         return false;
+    product_value = product(m, sine);
+    const double bound = error + m_error + power_of_two(-126) + 0.5 * std::pow(10.0, -places);
+    return decide_digits(product_value, bound * kWider, 15, false, result);
+}
+
+bool positive_operand(const complex &z, Decimal &x) {
+    return z.imag == 0 && operand(z.real, x) && x.coefficient != 0 && !x.negative;
+}
+
+bool finish(const Decimal &value, complex &result) {
+    double real = 0;
+    if (!read_decimal(value, real)) return false;
     result = complex{real, 0.0};
     return true;
 }
 
-namespace {
-
-// pi / 180 as the decimal layer holds it: its first 34 digits, cut, times 10^-35.
-constexpr const char *kDegreeDigits = "1745329251994329576923690768488612";
-constexpr int kDegreeExponent = -35;
-constexpr std::size_t kStoredDigits = 34;
-
-// The angle in radians of x degrees as the decimal layer makes it, the product of the
-// operand and its pi / 180 cut to 34 digits, into binary with one rounding.
-bool degrees_to_binary(const Decimal &angle, mpfr_ptr out) {
-    mpz_t product, power;
-    mpz_init_set_str(product, kDegreeDigits, 10);
-    mpz_init(power);
-    mpz_mul_ui(product, product, static_cast<unsigned long>(angle.coefficient));
-    int exponent = angle.exponent + kDegreeExponent;
-    std::size_t digits = mpz_sizeinbase(product, 10);
-    mpz_ui_pow_ui(power, 10, static_cast<unsigned long>(digits - 1));
-    if (mpz_cmp(product, power) < 0) --digits;  // the size may count one digit too many
-    if (digits > kStoredDigits) {
-        mpz_ui_pow_ui(power, 10, static_cast<unsigned long>(digits - kStoredDigits));
-        mpz_tdiv_q(product, product, power);
-        exponent += static_cast<int>(digits - kStoredDigits);
-    }
-    const bool exact = exponent <= kExactPower && exponent >= -kExactPower;
-    if (exact) {
-        mpfr_set_z(out, product, MPFR_RNDN);  // exact: below 10^34 < 2^113
-        Binary scale;
-        mpfr_ui_pow_ui(scale.get(), 10, static_cast<unsigned long>(std::abs(exponent)), MPFR_RNDN);
-        if (exponent >= 0)
-            mpfr_mul(out, out, scale.get(), MPFR_RNDN);
-        else
-            mpfr_div(out, out, scale.get(), MPFR_RNDN);
-    }
-    mpz_clear(product);
-    mpz_clear(power);
-    return exact;
-}
-
 }  // namespace
 
-bool real_sine(double x, bool cosine, bool degrees, complex &result) {
+bool real_log(const complex &z, complex &result, Road *road) {
+    Decimal x, logarithm;
+    Road taken;
+    // The modulus of a positive real is itself; its argument is 0.
+    if (!positive_operand(z, x) || !log_digits(x, 18, true, logarithm, taken) ||
+        !finish(logarithm, result))
+        return false;
+    note(road, taken);
+    return true;
+}
+
+bool real_exp(const complex &z, complex &result, Road *road) {
+    Decimal x, value;
+    Road taken;
+    if (z.imag != 0 || !operand(z.real, x) ||
+        !exp_digits(x.negative, x.coefficient, x.exponent, 18, true, value, taken) ||
+        !finish(value, result))
+        return false;
+    note(road, taken);
+    return true;
+}
+
+bool real_sine(double x, bool cosine, bool degrees, complex &result, Road *road) {
     Decimal angle, value;
     if (!operand(x, angle)) return false;
-    Binary binary, function;
     if (angle.coefficient == 0) {
-        mpfr_set_zero(binary.get(), 1);
-    } else if (degrees) {
-        if (!degrees_to_binary(angle, binary.get())) return false;
-    } else if (!set_decimal(binary.get(), angle.coefficient, angle.exponent)) {
+        result = complex{cosine ? 1.0 : 0.0, 0.0};
+        note(road, Road::kernel);
+        return true;
+    }
+    Binary radians, sine;
+    double angle_error = 0, error = 0;
+    const bool converted = degrees ? degrees_to_radians(angle.negative, angle.coefficient,
+                                                        angle.exponent, radians, angle_error)
+                                   : decimal_to_binary(angle.negative, angle.coefficient,
+                                                       angle.exponent, radians, angle_error);
+    // The decimal layer's angle lies within kRoadError of the angle, relative, and its value
+    // within kRoadError of the function's, relative.
+    if (converted && sine_kernel(radians, angle_error * kWider, cosine, sine, error)) {
+        const double road_error = kRoadError * (approximate(radians) + 1) / approximate(sine);
+        if (decide_digits(sine, error * kWider + road_error + kRoadError, 18, true, value) &&
+            finish(value, result)) {
+            note(road, Road::kernel);
+            return true;
+        }
+    }
+    // In degrees an angle next to a whole number of quarter turns is reduced exactly.
+    ReducedAngle reduced;
+    if (converted && degrees && reduce_degrees(angle.coefficient, angle.exponent, reduced) &&
+        quadrant_sine(reduced.rest, reduced.delta * kWider, reduced.quarters, cosine, sine,
+                      error)) {
+        if (angle.negative && !cosine) sine.negative = !sine.negative;
+        const double road_error = kRoadError * (approximate(radians) + 1) / approximate(sine);
+        if (decide_digits(sine, error * kWider + road_error + kRoadError, 18, true, value) &&
+            finish(value, result)) {
+            note(road, Road::kernel);
+            return true;
+        }
+    }
+    if (!mpfr_sine_digits(angle, cosine, degrees, value) || !engine_value(value, result.real))
         return false;
-    }
-    if (angle.negative) mpfr_neg(binary.get(), binary.get(), MPFR_RNDN);
-    // The angle as the decimal layer has it, in radians, for the error bound.
-    const double radians = std::fabs(mpfr_get_d(binary.get(), MPFR_RNDN));
-    if (cosine)
-        mpfr_cos(function.get(), binary.get(), MPFR_RNDN);
-    else
-        mpfr_sin(function.get(), binary.get(), MPFR_RNDN);
-    if (!mpfr_zero_p(function.get())) {
-        // The angle within |x| kUnit / 2 (absolute) moves the value as much; its own
-        // rounding adds kUnit / 2 of it. The decimal layer's binary angle carries more bits
-        // for a larger angle, so its error stays below kRoadError relative to the angle.
-        const double magnitude = std::fabs(mpfr_get_d(function.get(), MPFR_RNDN));
-        const double reach = radians + 1;
-        const double error = (kUnit + kRoadError) * reach / magnitude + kUnit;
-        if (!round_to_digits(function.get(), error, 18, value)) return false;
-        value.negative = mpfr_sgn(function.get()) < 0;
-    }
-    double real = 0;
-    if (!engine_value(value, real)) return false;
-    result = complex{real, 0.0};
+    result.imag = 0.0;
+    note(road, Road::binary);
     return true;
 }
 
-bool real_power(const complex &a, const complex &b, complex &result) {
-    Decimal base, exponent, logarithm;
-    Binary x, value;
-    if (b.imag != 0 || !operand(b.real, exponent) || !positive_operand(a, base, x) ||
-        !logarithm_of(x.get(), 17, logarithm))
+bool real_power(const complex &a, const complex &b, complex &result, Road *road) {
+    Decimal base, exponent, logarithm, magnitude;
+    Road first, second;
+    bool odd = false;
+    if (a.imag != 0 || b.imag != 0 || !operand(b.real, exponent) || !operand(a.real, base))
         return false;
-
-    // y = b L exactly (14 and 17 digits), M = exp(y) at 17 digits.
-    const Wide y = static_cast<Wide>(exponent.coefficient) * logarithm.coefficient;
-    Decimal magnitude{false, 1, 0};
-    if (y != 0) {
-        const bool negative = exponent.negative != logarithm.negative;
-        const int y_exponent = exponent.exponent + logarithm.exponent;
-        const double approximate = static_cast<double>(y) * std::pow(10.0, y_exponent);
-        if (!(std::fabs(approximate) < kLargestExponent)) return false;
-        if (!set_decimal(x.get(), y, y_exponent)) return false;
-        if (negative) mpfr_neg(x.get(), x.get(), MPFR_RNDN);
-        mpfr_exp(value.get(), x.get(), MPFR_RNDN);
-        // y within kUnit / 2 (relative): exp(y) within |y| kUnit / 2, and its rounding.
-        const double error = (std::fabs(approximate) + 1) * (kUnit + kRoadError);
-        if (!round_to_digits(value.get(), error, 17, magnitude)) return false;
+    if (base.coefficient == 0) {
+        // 0 to a positive power is exactly 0; to any other the decimal road reports it.
+        if (exponent.negative || exponent.coefficient == 0) return false;
+        result = complex{0.0, 0.0};
+        note(road, Road::kernel);
+        return true;
     }
-
-    // The engine's rounding of M to 15 digits.
-    double real = 0;
-    if (!engine_value(magnitude, real)) return false;
-    result = complex{real, 0.0};
+    // A negative base only to a whole power, whose phase is known (power_phase.h).
+    const bool negative_base = base.negative;
+    if (negative_base && !whole_exponent(exponent, odd)) return false;
+    base.negative = false;
+    if (!log_digits(base, 17, false, logarithm, first)) return false;
+    // y = b L exactly (14 and 17 digits), M = exp(y) at 17 digits, then the engine's 15. The
+    // modulus of the base is the base itself, exactly, and its logarithm that of a positive.
+    const U128 y = static_cast<U128>(exponent.coefficient) * logarithm.coefficient;
+    const bool y_negative = exponent.negative != logarithm.negative;
+    const int y_exponent = exponent.exponent + logarithm.exponent;
+    if (!negative_base) {
+        if (!exp_digits(y_negative, y, y_exponent, 17, true, magnitude, second) ||
+            !finish(magnitude, result))
+            return false;
+    } else {
+        // M at 17 digits; the phase at P = 15 + E(M) places, P + 1 digits.
+        Decimal real, imaginary;
+        if (!exp_digits(y_negative, y, y_exponent, 17, false, magnitude, second)) return false;
+        int leading = magnitude.exponent;  // the exponent of M's first digit
+        for (std::uint64_t n = magnitude.coefficient; n >= 10; n /= 10) ++leading;
+        const int places = 15 + (leading > 0 ? leading : 0);
+        double re = 0, im = 0;
+        if (!multiply(magnitude, Decimal{odd, 1, 0}, real) ||
+            !phase_part(exponent, magnitude, places, imaginary) || !read_decimal(real, re) ||
+            !read_decimal(imaginary, im))
+            return false;
+        result = complex{re, im};
+    }
+    note(road, first == Road::kernel && second == Road::kernel ? Road::kernel : Road::binary);
     return true;
 }
 

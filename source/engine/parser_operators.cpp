@@ -14,7 +14,7 @@ constexpr int kPlaces = 14;
 }
 
 complex Parser::_pow(const complex &a, const complex &b) {
-    // A positive real base: its two roundings decided in binary where a bound decides them.
+    // A real base and exponent: the roundings decided in integer kernels where a bound does.
     if (complex power; exact::real_power(a, b, power)) return power;
     // 0 to a power that is not positive fails and leaves the results at 0.
     return complex_pair_worker(

@@ -49,6 +49,7 @@ complex Parser::_log10(const complex &z) {
 }
 
 complex Parser::_exp(const complex &z) {
+    if (complex value; exact::real_exp(z, value)) return value;
     return complex_worker(z, [this] { m_apmc_exp(mapm_r1, mapm_r2, kPlaces, mapm_a, mapm_b); });
 }
 

@@ -17,7 +17,6 @@
 #include <string>
 
 #include "exact_arithmetic.h"
-#include "exact_functions.h"
 #include "mapm.h"
 #include "mapm_complex.h"
 #include "mathematics.h"
@@ -222,122 +221,6 @@ TEST(ExactSquareRoot, AgreesWithTheDecimalRoadBitForBit) {
     EXPECT_TRUE(same_bits(root.real, 0.0) && same_bits(root.imag, 2.0));
     ASSERT_TRUE(exact::complex_sqrt({2, -0.0}, root));
     EXPECT_EQ(root.real, 1.41421356237310);
-}
-
-// Powers of positive reals: integer exponents (squares and cubes most), the cube root's
-// exponent, a half, random reals; negative and zero bases must be left to the road.
-TEST(ExactPower, AgreesWithTheDecimalRoadBitForBit) {
-    const long draws = pairs_to_draw(1000000) / 10;
-    Operands draw(4242u);
-    // Ordinary cases: a base and a result well within the digit forms. Those left to the road
-    // there are the roundings the binary bound did not decide.
-    long decided = 0, mismatches = 0, positive = 0, ordinary = 0, ordinary_left = 0;
-    const double exponents[] = {2, 3, 2, 3, -1, -2, 4, 5, 10, 0.5, 0.333333333333333, 0, 1};
-    for (long k = 0; k < draws; ++k) {
-        const double base = draw.part();
-        const double exponent = draw.pick(5) == 0 ? draw.part() / 7 : exponents[draw.pick(13)];
-        positive += base > 0;
-        complex fast;
-        const bool fits = base >= 1e-8 && base <= 1e13 && std::fabs(exponent) <= 10 &&
-                          (exponent == 0 || std::fabs(exponent) >= 1e-8);
-        const double expected = std::pow(base, exponent);
-        const bool is_ordinary = fits && expected >= 1e-6 && expected <= 1e13;
-        ordinary += is_ordinary;
-        if (!exact::real_power({base, 0.0}, {exponent, 0.0}, fast)) {
-            ordinary_left += is_ordinary;
-            continue;
-        }
-        ++decided;
-        const complex road = decimal_road({base, 0.0}, {exponent, 0.0},
-                                          [](M_APM rr, M_APM ri, M_APM ar, M_APM ai, M_APM br,
-                                             M_APM bi) { m_apmc_pow(rr, ri, 14, ar, ai, br, bi); });
-        note_mismatch(fast, road, hex(base) + " ^ " + hex(exponent), mismatches);
-    }
-    EXPECT_EQ(mismatches, 0);
-    EXPECT_GT(decided, positive / 2);
-    std::printf(
-        "POW: %ld of %ld positive bases decided in binary, %ld mismatches; %ld of %ld "
-        "ordinary cases left to the decimal road\n",
-        decided, positive, mismatches, ordinary_left, ordinary);
-    complex power;
-    EXPECT_FALSE(exact::real_power({-2, 0}, {2, 0}, power));
-    EXPECT_FALSE(exact::real_power({0, 0}, {2, 0}, power));
-    EXPECT_FALSE(exact::real_power({2, 1}, {2, 0}, power));
-    EXPECT_FALSE(exact::real_power({2, 0}, {2, 1}, power));
-    ASSERT_TRUE(exact::real_power({3, 0}, {2, 0}, power));
-    EXPECT_EQ(power.real, 9.0);
-}
-
-TEST(ExactLogarithm, AgreesWithTheDecimalRoadBitForBit) {
-    const long draws = pairs_to_draw(1000000) / 10;
-    Operands draw(31415u);
-    long decided = 0, mismatches = 0, ordinary = 0, ordinary_left = 0;
-    for (long k = 0; k < draws; ++k) {
-        // Near 1 as well, where the logarithm is small and cancels.
-        const double x = draw.pick(6) == 0 ? 1 + draw.part() * 1e-6 : draw.part();
-        const bool is_ordinary = x >= 1e-8 && x <= 1e13;
-        ordinary += is_ordinary;
-        complex fast;
-        if (!exact::real_log({x, 0.0}, fast)) {
-            ordinary_left += is_ordinary;
-            continue;
-        }
-        ++decided;
-        const complex road = unary_road(
-            x, [](M_APM rr, M_APM ri, M_APM ar, M_APM ai) { m_apmc_log(rr, ri, 14, ar, ai); });
-        note_mismatch(fast, road, "LN " + hex(x), mismatches);
-    }
-    EXPECT_EQ(mismatches, 0);
-    EXPECT_GT(decided, draws / 3);
-    std::printf(
-        "LN: %ld decided in binary, %ld mismatches; %ld of %ld ordinary cases left to "
-        "the decimal road\n",
-        decided, mismatches, ordinary_left, ordinary);
-    complex logarithm;
-    EXPECT_FALSE(exact::real_log({-1, 0}, logarithm));
-    EXPECT_FALSE(exact::real_log({1, 1}, logarithm));
-    ASSERT_TRUE(exact::real_log({1, 0}, logarithm));
-    EXPECT_TRUE(same_bits(logarithm.real, 0.0) && same_bits(logarithm.imag, 0.0));
-}
-
-// Sines and cosines of reals in radians and in degrees, near multiples of pi/2 as well.
-TEST(ExactSine, AgreesWithTheDecimalRoadBitForBit) {
-    const long draws = pairs_to_draw(1000000) / 10;
-    Operands draw(2718u);
-    long decided = 0, mismatches = 0, ordinary = 0, ordinary_left = 0;
-    for (long k = 0; k < draws; ++k) {
-        const bool cosine = draw.pick(2) == 0;
-        const bool degrees = draw.pick(2) == 0;
-        const double x = draw.pick(6) == 0 ? draw.pick(40) * 1.5707963267948966 + draw.part() * 1e-9
-                                           : draw.part();
-        const bool is_ordinary = std::fabs(x) >= 1e-8 && std::fabs(x) <= 1e6;
-        ordinary += is_ordinary;
-        complex fast;
-        if (!exact::real_sine(x, cosine, degrees, fast)) {
-            ordinary_left += is_ordinary;
-            continue;
-        }
-        ++decided;
-        const complex road = unary_road(x, [&](M_APM rr, M_APM ri, M_APM ar, M_APM ai) {
-            if (degrees) {
-                // The engine's angle: the operand times pi / 180 in the decimal layer.
-                MapmNumber factor, part = *ar;
-                m_apm_set_string(&factor, "0.017453292519943295769236907684886127134428718885417");
-                m_apm_multiply(ar, &part, &factor);
-            }
-            if (cosine)
-                m_apmc_cos(rr, ri, 14, ar, ai);
-            else
-                m_apmc_sin(rr, ri, 14, ar, ai);
-        });
-        note_mismatch(fast, road, (cosine ? "COS " : "SIN ") + hex(x), mismatches);
-    }
-    EXPECT_EQ(mismatches, 0);
-    EXPECT_GT(decided, draws / 3);
-    std::printf(
-        "SIN/COS: %ld decided in binary, %ld mismatches; %ld of %ld ordinary cases left "
-        "to the decimal road\n",
-        decided, mismatches, ordinary_left, ordinary);
 }
 
 // Cases by hand: the edges the Parts name and the boundaries of each rounding.
